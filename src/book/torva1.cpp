@@ -1,0 +1,302 @@
+#include "book/torva1.h"
+
+#include "calendar/calendrier.h"
+#include "data/dossier.h"
+#include "data/erreur.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/param.h"
+#include "data/record.h"
+#include "data/rendez_vous.h"
+#include "data/texte.h"
+#include "editor/inter.h"
+#include "ui/dates.h"
+#include "ui/systeme.h"
+
+#include <cmath>
+
+namespace agenda {
+
+namespace {
+
+const QString heure_par_defaut = QStringLiteral("07:12:19:020");
+
+constexpr std::array<std::int32_t, 12> couleurs_des_onglets = {
+    0xC0C0FF, 0xC0FFFF, 0xC0FFC0, 0xC0E0FF, 0xC0C0C0, 0xFFC0FF,
+    0xFF8080, 0x00C000, 0xFFFFFF, 0x8080FF, 0x0080FF, 0xFFC0FF,
+};
+
+// One pattern per tab: 18 characters for the left edge, ":", 21 for the right edge.
+constexpr std::array<const char*, 12> motifs_gauche = {
+    "100000000000000000:011111100000000000000", "100000000000000000:011111100000000000000",
+    "110000000000000000:001111110000000000000", "111000000000000000:000111111000000000000",
+    "111100000000000000:000011111100000000000", "111110000000000000:000001111110000000000",
+    "111110000000000000:000001111110000000000", "011110100000000000:000000011111000000000",
+    "001110110000000000:000000001111000000000", "000110111000000000:000000000111000000000",
+    "000010111100000000:000000000011000000000", "xxxxxxxxxxxxxxxxxx:xxxxxxxxxxxxxxxxxxxxx",
+};
+constexpr std::array<const char*, 12> motifs_droite = {
+    "100000000000000000:011111100000000000000", "110000000000000000:001111110000000000000",
+    "111000000000000000:000111111000000000000", "111100000000000000:000011111100000000000",
+    "111110000000000000:000001111110000000000", "011110100000000000:000000011111000000000",
+    "011110100000000000:000000011111000000000", "001110110000000000:000000001111000000000",
+    "000110111000000000:000000000111000000000", "000010111100000000:000000000011000000000",
+    "000000111110000000:000000000001000000000", "xxxxxxxxxxxxxxxxxx:xxxxxxxxxxxxxxxxxxxxx",
+};
+
+// Characters 6 to 16 and 26 to 36 blanked: only the six tabs in use can show.
+QString motif_limite(const char* motif) {
+    QString m = QString::fromLatin1(motif);
+    m.replace(5, 11, QStringLiteral("00000000000"));
+    m.replace(25, 11, QStringLiteral("00000000000"));
+    return m;
+}
+
+void applique_motif(const QString& motif, std::array<bool, 12>& gauche,
+                    std::array<bool, 12>& droite) {
+    for (int j = 0; j < 12; ++j) {
+        gauche[j] = val(mid1(motif, j + 1, 1)) != 0;
+        droite[j] = val(mid1(motif, j + 20, 1)) != 0;
+    }
+}
+
+std::int16_t champ_heure(const QString& valeur, int debut, int longueur) {
+    return static_cast<std::int16_t>(val(mid1(valeur, debut, longueur)));
+}
+
+} // namespace
+
+Torva1::Torva1() {
+    for (QTimer* t : {&Timer1, &Timer2, &Timer3})
+        t->setSingleShot(true); // each timer stops itself before acting
+    connect(&Timer1, &QTimer::timeout, this, [this] { charge(); });
+    connect(&Timer2, &QTimer::timeout, this, [this] {
+        sel_click_d(3);
+        sel_onglet(3);
+    });
+    connect(&Timer3, &QTimer::timeout, this, [this] { emit au_premier_plan(); });
+}
+
+void Torva1::charge() {
+    etat.banniere_chargee = true; // the banner window comes with the planning
+    etat.mode_salle = false;
+    lit_clavier_ecran();
+    lit_param();
+    ouvre_arr();
+    lit_nb_services();
+    ouvre_rv();
+    if (etat.mode_salle) {
+        etat.nb_collab = 20;
+        for (int i = 1; i <= 20; ++i)
+            etat.noms_collab[i] =
+                motif_zeros(i, 2) + QStringLiteral(" : Salle ") + QString::number(i);
+    } else {
+        charge_collaborateurs();
+    }
+    Timer3.start(1500);
+    if (etat.date_courante == 0)
+        etat.date_courante = ui::date_maintenant();
+    calend = etat.date_courante;
+    sel_click_g(0);
+    sel_onglet(0);
+    if (lit_inter(QStringLiteral("TORVA:NUMUSER")).left(6) == QLatin1String("#GENE#"))
+        Timer2.start(200);
+    ui::cede();
+}
+
+void Torva1::lit_param() {
+    std::copy(couleurs_des_onglets.begin(), couleurs_des_onglets.end(), couleurs_onglet.begin());
+    for (std::size_t i = 0; i < motifs_gauche.size(); ++i) {
+        motifs_g[i] = motif_limite(motifs_gauche[i]);
+        motifs_d[i] = motif_limite(motifs_droite[i]);
+    }
+
+    QString heures = lit_valeur_param(QStringLiteral("TORVA:HEURE"));
+    if (heures.isEmpty()) {
+        heures = heure_par_defaut;
+        ecrit_param(QStringLiteral("TORVA:HEURE"), heures);
+    }
+    etat.heure_debut = champ_heure(heures, 1, 2);
+    etat.heure_rupture = champ_heure(heures, 4, 2);
+    etat.heure_fin = champ_heure(heures, 7, 2);
+    etat.duree_defaut = champ_heure(heures, 10, 3);
+
+    const QString numuser = lit_inter(QStringLiteral("TORVA:NUMUSER"));
+    if (!numuser.trimmed().isEmpty()) {
+        etat.num_collab = static_cast<std::int16_t>(val(numuser.left(4)));
+        Label7 = mid1(numuser, 6).trimmed();
+    } else {
+        etat.num_collab = 0;
+        Label7 = QStringLiteral("Agenda");
+    }
+}
+
+void Torva1::appel_menu() {
+    const QString retour = lit_inter(QStringLiteral("TORVA:RETOUR")).trimmed();
+    if (!retour.isEmpty()) {
+        ui::lance_commande(retour);
+        ui::cede();
+    }
+    ferme_tous_les_canaux();
+    ui::termine(0);
+}
+
+void Torva1::Form_KeyPress(int code) {
+    if (code == 27)
+        appel_menu();
+}
+
+void Torva1::sel_click_g(int n) { applique_motif(motifs_g.at(n), ongletg_visible, ongletd_visible); }
+
+void Torva1::sel_click_d(int n) { applique_motif(motifs_d.at(n), ongletg_visible, ongletd_visible); }
+
+void Torva1::sel_onglet(int n) {
+    if (n == 5 || n == 11)
+        appel_menu();
+    vue_visible = n >= 0 && n < nb_vues ? n : -1;
+    emit modifie();
+    ui::cede();
+    switch (n) {
+    case 0:
+        lit_param_jour();
+        decod_date();
+        affiche_rv();
+        break;
+    default:
+        // The week, year, planning and search views are not in the book yet: their page
+        // slot shows empty.
+        break;
+    }
+    emit modifie();
+}
+
+void Torva1::calend_Click(Date jour) {
+    etat.date_courante = jour;
+    calend = jour;
+    sel_onglet(0);
+}
+
+void Torva1::Picture2_Click() {
+    etat.date_courante -= 1;
+    calend = etat.date_courante;
+    sel_onglet(0);
+}
+
+void Torva1::Picture3_Click() {
+    etat.date_courante += 1;
+    calend = etat.date_courante;
+    sel_onglet(0);
+}
+
+void Torva1::lit_param_jour() {
+    using namespace slot_page;
+    const auto remplit = [this](int b, int premiere, int fin, int haut_, int hauteur_) {
+        table_pages[b + heure_premiere] = static_cast<std::int16_t>(premiere);
+        table_pages[b + heure_fin] = static_cast<std::int16_t>(fin);
+        table_pages[b + divisions] = 4;
+        table_pages[b + haut] = static_cast<std::int16_t>(haut_);
+        table_pages[b + hauteur] = static_cast<std::int16_t>(hauteur_);
+        table_pages[b + gauche] = 800;
+        table_pages[b + largeur] = 5400;
+    };
+    remplit(base_gauche, etat.heure_debut, etat.heure_rupture, 3700, 6500);
+    remplit(base_droite, etat.heure_rupture, etat.heure_fin, 1100, 9100);
+    etat.page_base = base_gauche;
+    dessine_agenda(pageg);
+    etat.page_base = base_droite;
+    dessine_agenda(paged);
+}
+
+void Torva1::dessine_agenda(ui::Surface& surface) {
+    using namespace slot_page;
+    auto& t = table_pages;
+    const int b = etat.page_base;
+    t[b + nb_heures] = static_cast<std::int16_t>(t[b + heure_fin] - t[b + heure_premiere]);
+    if (t[b + nb_heures] == 0)
+        throw ErreurFatale(QStringLiteral(
+            "Réglage « TORVA:HEURE » invalide : la première heure du jour est égale à l'heure "
+            "de rupture, la page du matin n'a aucune heure."));
+    t[b + hauteur_heure] =
+        static_cast<std::int16_t>(std::nearbyint(double(t[b + hauteur]) / t[b + nb_heures]));
+    echelle_page = static_cast<float>(t[b + hauteur_heure] / 100.0);
+    t[b + origine] = static_cast<std::int16_t>(
+        std::nearbyint(t[b + haut] - t[b + heure_premiere] * 100 * double(echelle_page)));
+    (b == base_gauche ? echelle_g : echelle_d) = echelle_page;
+
+    constexpr std::int32_t gris = 0xC0C0C0, gris_clair = 0xE0E0E0;
+    surface.efface();
+    surface.police(QStringLiteral("Arial"));
+    const int x1 = t[b + gauche], x2 = t[b + gauche] + t[b + largeur];
+    for (int i = 1; i <= t[b + nb_heures]; ++i) {
+        const int y = t[b + haut] + (i - 1) * t[b + hauteur_heure];
+        surface.taille_police(16);
+        surface.couleur_texte(gris);
+        surface.ligne(x1, y, x2, y, gris);
+        const QString h = QString::number(t[b + heure_premiere] + i - 1);
+        surface.ecrit(x1 - 100 - surface.largeur_texte(h), y - 200, h);
+        if (t[b + divisions] > 0) {
+            const int demi = y + t[b + hauteur_heure] / 2;
+            surface.ligne(x1, demi, x2, demi, gris_clair);
+            surface.taille_police(8);
+            surface.couleur_texte(gris);
+            const QString trente = QStringLiteral("30");
+            surface.ecrit(x1 - 100 - surface.largeur_texte(trente), demi - 120, trente);
+        }
+        if (t[b + divisions] > 1) {
+            t[b + demi_heure] =
+                static_cast<std::int16_t>(std::nearbyint(t[b + hauteur_heure] / 2.0));
+            t[b + quart_heure] =
+                static_cast<std::int16_t>(std::nearbyint(t[b + hauteur_heure] / 4.0));
+            surface.style_pointille(true);
+            for (const int q : {y + t[b + demi_heure] - t[b + quart_heure],
+                                y + t[b + demi_heure] + t[b + quart_heure]})
+                surface.ligne(x1, q, x2, q, gris_clair);
+            surface.style_pointille(false);
+        }
+    }
+}
+
+void Torva1::decod_date() {
+    const Date d = etat.date_courante;
+    Label1 = ui::format_date(d, u"yyyy");
+    Label2 = initiale_majuscule(ui::nom_jour(ui::jour_semaine(d)));
+    Label3 = ui::format_date(d, u"dd");
+    Label4 = initiale_majuscule(ui::format_date(d, u"mmmm"));
+}
+
+void Torva1::affiche_rv() {
+    // Labels are made anew at each showing, however many the last day had.
+    lrv.clear();
+    lrvd.clear();
+    num_rv_label.clear();
+    charge_journee();
+    num_rv_label.assign(std::size_t(etat.nb_jour()) + 1, 0);
+    for (int i = 1; i <= etat.nb_jour(); ++i)
+        place_etiquette(i, etat.liste_jour[i - 1]);
+    ui::cede();
+}
+
+void Torva1::place_etiquette(int i, const QString& e) {
+    using namespace slot_page;
+    const std::int32_t numero = entree_jour::numero(e);
+    const RecRv rec = lit_record<RecRv>(canal::rv, numero + 1);
+    const bool a_gauche = val(mid1(rec.cle_rv, 8, 2)) < table_pages[base_gauche + heure_fin];
+    echelle_page = a_gauche ? echelle_g : echelle_d;
+    etat.page_base = a_gauche ? base_gauche : base_droite;
+    const int b = etat.page_base;
+
+    EtiquetteRv& et = (a_gauche ? lrv : lrvd)[i];
+    et.left = table_pages[b + gauche] + 45;
+    et.width = table_pages[b + largeur] - 90;
+    et.bordure = entree_jour::encadre(e);
+    et.couleur = rec.couleur_rv;
+    et.legende = rec.texte_rv.trimmed();
+    num_rv_label[std::size_t(i)] = numero;
+    const float debut = heure_centieme(entree_jour::heure_debut(e));
+    et.top = int(std::lround(debut * echelle_page + table_pages[b + origine]));
+    // A key damaged by hand may give a negative height, which a label cannot take.
+    const float hauteur_ = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
+    et.height = std::max(0, int(std::lround(hauteur_)));
+}
+
+} // namespace agenda

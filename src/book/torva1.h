@@ -1,0 +1,93 @@
+#pragma once
+// The main window: the open book. This is its logic, free of widgets; Torva1Vue shows it.
+// Handlers keep the names of the window's controls and events.
+
+#include "data/etat.h"
+#include "ui/surface.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <array>
+#include <cstdint>
+#include <map>
+#include <vector>
+
+namespace agenda {
+
+// An appointment laid on a page, in twips of the page surface.
+struct EtiquetteRv {
+    int left = 0, top = 0, width = 0, height = 0;
+    bool bordure = false;
+    std::int32_t couleur = 0;
+    QString legende;
+};
+
+// Slots of table_pages, from the base of a page (0 left, 30 right).
+namespace slot_page {
+inline constexpr int heure_premiere = 1, heure_fin = 2, divisions = 3, haut = 4, hauteur = 5,
+                     gauche = 6, largeur = 7, origine = 8, nb_heures = 10, hauteur_heure = 11,
+                     demi_heure = 12, quart_heure = 13;
+inline constexpr int base_gauche = 0, base_droite = 30;
+} // namespace slot_page
+
+class Torva1 : public QObject {
+    Q_OBJECT
+public:
+    static constexpr int largeur_livre = 15360, hauteur_livre = 11070; // in twips
+    static constexpr int nb_onglets = 12;
+    static constexpr int nb_vues = 11; // page slots pageg(0..10), paged(0..10)
+
+    Torva1();
+
+    // The load, run at start and again on reload; each step bears being run again.
+    void charge();
+    void lit_param();
+    // Starts the return command and ends the program, without confirmation.
+    [[noreturn]] void appel_menu();
+
+    // Tabs and views.
+    void sel_click_g(int n);
+    void sel_click_d(int n);
+    void sel_onglet(int n);
+
+    // Day view.
+    void lit_param_jour();
+    void dessine_agenda(ui::Surface& surface);
+    void decod_date();
+    void affiche_rv();
+
+    // Handlers.
+    void Form_KeyPress(int code);
+    void ongletg_Click(int i) { sel_click_g(i), sel_onglet(i); }
+    void ongletd_Click(int i) { sel_click_d(i), sel_onglet(i); }
+    void calend_Click(Date jour);
+    void Picture2_Click(); // the day before
+    void Picture3_Click(); // the day after
+
+    // What the window shows.
+    std::array<std::int16_t, 51> table_pages{};
+    float echelle_page = 0, echelle_g = 0, echelle_d = 0;
+    ui::Surface pageg, paged;
+    std::map<int, EtiquetteRv> lrv, lrvd; // by place in the day list, from 1
+    std::vector<std::int32_t> num_rv_label;
+    QString Label1, Label2, Label3, Label4; // year, weekday, day, month
+    QString Label7;                         // the book's title
+    Date calend = 0;                        // the month control's day
+    std::array<bool, nb_onglets> ongletg_visible{}, ongletd_visible{};
+    int vue_visible = 0; // the page slot on show; -1 none
+    std::array<std::int32_t, 16> couleurs_onglet{};
+    std::array<QString, 21> motifs_g, motifs_d;
+    QTimer Timer1, Timer2, Timer3;
+
+signals:
+    // The view shows the state above again.
+    void modifie();
+    // Timer3: the window comes to the front.
+    void au_premier_plan();
+
+private:
+    void place_etiquette(int i, const QString& entree);
+};
+
+} // namespace agenda

@@ -1,0 +1,175 @@
+#include "book/torva1_vue.h"
+
+#include "data/erreur.h"
+#include "ui/echelle.h"
+#include "ui/icc.h"
+#include "ui/widgets.h"
+
+#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace agenda {
+
+namespace {
+
+constexpr ui::RectTwips page_gauche{600, 0, 6600, 10950};
+constexpr ui::RectTwips page_droite{8100, 0, 6600, 10950};
+constexpr ui::RectTwips reliure{7200, 0, 900, 10950};
+
+ui::RectTwips onglet(bool gauche, int i) {
+    return {gauche ? 0 : 14700, 500 + i * 1550, gauche ? 600 : 660, 1450};
+}
+
+QString teinte(std::int32_t bbggrr) { return ui::couleur(bbggrr).name(); }
+
+} // namespace
+
+Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
+    setWindowTitle(QStringLiteral("Agenda"));
+    setFixedSize(ui::px(Torva1::largeur_livre), ui::px(Torva1::hauteur_livre));
+    setAutoFillBackground(false);
+
+    auto* fond = new QLabel(this);
+    fond->setGeometry(rect());
+    fond->setPixmap(ui::icc::couverture(size()));
+
+    pageg_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, true); });
+    paged_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, false); });
+    ui::place(*pageg_, page_gauche);
+    ui::place(*paged_, page_droite);
+    auto* picture1 = new QLabel(this);
+    ui::place(*picture1, reliure);
+    picture1->setPixmap(ui::icc::reliure(picture1->size()));
+
+    for (int i = 0; i < Torva1::nb_onglets; ++i) {
+        for (const bool gauche : {true, false}) {
+            auto* b = new QPushButton(this);
+            ui::place(*b, onglet(gauche, i));
+            b->setFlat(true);
+            b->setCursor(Qt::PointingHandCursor);
+            b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
+            b->setIconSize(b->size());
+            connect(b, &QPushButton::clicked, this, [this, i, gauche] {
+                protege([&] { gauche ? l_.ongletg_Click(i) : l_.ongletd_Click(i); });
+            });
+            (gauche ? ongletg_ : ongletd_)[std::size_t(i)] = b;
+        }
+    }
+
+    const auto gauche_haut = Qt::AlignLeft | Qt::AlignVCenter;
+    label2_ = texte(pageg_, {800, 300, 2700, 500}, 18, false, gauche_haut);
+    label3_ = texte(pageg_, {800, 800, 2700, 1300}, 54, true, gauche_haut);
+    label4_ = texte(pageg_, {800, 2150, 2700, 500}, 18, false, gauche_haut);
+    label1_ = texte(pageg_, {800, 2700, 2700, 450}, 14, false, gauche_haut);
+    label7_ = texte(paged_, {800, 250, 5400, 600}, 20, true, Qt::AlignCenter);
+
+    calend_ = new QCalendarWidget(pageg_);
+    ui::place(*calend_, {3500, 250, 2900, 3100});
+    calend_->setLocale(QLocale(QLocale::French, QLocale::France));
+    calend_->setFirstDayOfWeek(Qt::Monday);
+    calend_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calend_->setGridVisible(false);
+    calend_->setFont(ui::police(QStringLiteral("Arial"), 8));
+    connect(calend_, &QCalendarWidget::clicked, this,
+            [this](QDate d) { protege([&] { l_.calend_Click(ui::date_de(d)); }); });
+
+    const auto fleche = [this](QWidget* page, const ui::RectTwips& r, bool gauche) {
+        auto* b = new QToolButton(page);
+        ui::place(*b, r);
+        b->setAutoRaise(true);
+        b->setCursor(Qt::PointingHandCursor);
+        b->setIcon(ui::icc::fleche(gauche, b->size()));
+        b->setIconSize(b->size());
+        b->setToolTip(gauche ? QStringLiteral("Jour précédent") : QStringLiteral("Jour suivant"));
+        return b;
+    };
+    picture2_ = fleche(pageg_, {800, 10300, 600, 500}, true);
+    picture3_ = fleche(paged_, {5600, 10300, 600, 500}, false);
+    connect(picture2_, &QToolButton::clicked, this, [this] { protege([&] { l_.Picture2_Click(); }); });
+    connect(picture3_, &QToolButton::clicked, this, [this] { protege([&] { l_.Picture3_Click(); }); });
+
+    vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
+
+    connect(&l_, &Torva1::modifie, this, &Torva1Vue::synchronise);
+    connect(&l_, &Torva1::au_premier_plan, this, [this] {
+        raise();
+        activateWindow();
+    });
+}
+
+QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
+                         Qt::Alignment a) {
+    auto* l = new QLabel(parent);
+    ui::place(*l, r);
+    l->setFont(ui::police(QStringLiteral("DejaVu Serif"), points, gras));
+    l->setAlignment(a);
+    l->setStyleSheet(QStringLiteral("color: #4a2c1a; background: transparent;"));
+    return l;
+}
+
+void Torva1Vue::synchronise() {
+    for (int i = 0; i < Torva1::nb_onglets; ++i) {
+        for (const bool gauche : {true, false}) {
+            QPushButton* b = (gauche ? ongletg_ : ongletd_)[std::size_t(i)];
+            b->setVisible(gauche ? l_.ongletg_visible[std::size_t(i)]
+                                 : l_.ongletd_visible[std::size_t(i)]);
+            b->setStyleSheet(QStringLiteral("QPushButton { background: %1; border: 1px solid "
+                                            "#5a3a22; border-radius: 6px; }")
+                                 .arg(teinte(l_.couleurs_onglet[std::size_t(i)])));
+        }
+    }
+
+    const bool jour = l_.vue_visible == 0;
+    for (QWidget* w : vue_jour_)
+        w->setVisible(jour);
+    pageg_->montre(jour ? &l_.pageg : nullptr);
+    paged_->montre(jour ? &l_.paged : nullptr);
+    label1_->setText(l_.Label1);
+    label2_->setText(l_.Label2);
+    label3_->setText(l_.Label3);
+    label4_->setText(l_.Label4);
+    label7_->setText(l_.Label7);
+    setWindowTitle(l_.Label7 == QLatin1String("Agenda")
+                       ? QStringLiteral("Agenda")
+                       : QStringLiteral("Agenda — ") + l_.Label7);
+    {
+        const QSignalBlocker bloque(calend_);
+        calend_->setSelectedDate(ui::jour_de(l_.calend));
+    }
+
+    for (QLabel* e : etiquettes_)
+        delete e;
+    etiquettes_.clear();
+    if (!jour)
+        return;
+    for (const bool gauche : {true, false}) {
+        for (const auto& [i, et] : gauche ? l_.lrv : l_.lrvd) {
+            auto* e = new QLabel(gauche ? static_cast<QWidget*>(pageg_) : paged_);
+            ui::place(*e, {et.left, et.top, et.width, et.height});
+            e->setText(et.legende);
+            e->setWordWrap(true);
+            e->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+            e->setFont(ui::police(QStringLiteral("Arial"), 8));
+            e->setStyleSheet(QStringLiteral("QLabel { background: %1; color: black; padding: 1px; "
+                                            "border: %2; }")
+                                 .arg(teinte(et.couleur),
+                                      et.bordure ? QStringLiteral("1px solid black")
+                                                 : QStringLiteral("none")));
+            e->show();
+            etiquettes_.push_back(e);
+        }
+    }
+}
+
+void Torva1Vue::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_Escape) {
+        protege([&] { l_.Form_KeyPress(27); });
+        return;
+    }
+    QWidget::keyPressEvent(e);
+}
+
+} // namespace agenda

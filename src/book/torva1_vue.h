@@ -1,0 +1,47 @@
+#pragma once
+// The widgets of the open book, shown from the state of Torva1.
+
+#include "book/torva1.h"
+#include "ui/geometrie.h"
+
+#include <QWidget>
+#include <array>
+#include <vector>
+
+class QCalendarWidget;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace agenda {
+
+namespace ui {
+class VueSurface;
+} // namespace ui
+
+class Torva1Vue : public QWidget {
+public:
+    explicit Torva1Vue(Torva1& logique);
+
+    // Shows the state of the logic again.
+    void synchronise();
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    QLabel* texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
+                  Qt::Alignment a);
+
+    Torva1& l_;
+    ui::VueSurface* pageg_;
+    ui::VueSurface* paged_;
+    std::array<QPushButton*, Torva1::nb_onglets> ongletg_{}, ongletd_{};
+    QLabel *label1_, *label2_, *label3_, *label4_, *label7_;
+    QCalendarWidget* calend_;
+    QToolButton *picture2_, *picture3_;
+    std::vector<QWidget*> vue_jour_;     // what only the day view shows
+    std::vector<QLabel*> etiquettes_;    // lrv and lrvd
+};
+
+} // namespace agenda

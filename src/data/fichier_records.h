@@ -1,0 +1,71 @@
+#pragma once
+// A shared file of fixed-length records. Opened for reading and writing with no lock of any
+// kind, created empty when missing. Every read goes to the file and every write reaches it at
+// once (pread/pwrite on the descriptor, no user-space buffer), so what another workstation
+// wrote is seen at the next read.
+
+#include "data/octets.h"
+
+#include <QString>
+#include <cstdint>
+
+namespace agenda {
+
+class FichierRecords {
+public:
+    FichierRecords() = default;
+    FichierRecords(const FichierRecords&) = delete;
+    FichierRecords& operator=(const FichierRecords&) = delete;
+    ~FichierRecords() { ferme(); }
+
+    // Opens the file (relative names are in the working folder); throws ErreurFatale when the
+    // system refuses it.
+    void ouvre(const QString& chemin, int longueur_record);
+    void ferme();
+    bool ouvert() const { return fd_ >= 0; }
+    const QString& chemin() const { return chemin_; }
+    int longueur_record() const { return longueur_; }
+
+    std::int64_t taille() const; // in bytes, as the file stands now
+
+    // Record r (from 1). Bytes the file does not have are left as the caller set them, which
+    // is how a read past the end yields the format's blanks and zeros.
+    void lit(std::int64_t r, octets::Tampon buf) const;
+    // One write call for the whole record; past the end it extends the file.
+    void ecrit(std::int64_t r, octets::TamponLu buf);
+    // Reads as many whole records from r on as fit in buf, in one call; returns the number of
+    // bytes read (short at the end of the file).
+    std::size_t lit_bloc(std::int64_t r, octets::Tampon buf) const;
+
+private:
+    std::int64_t position(std::int64_t r) const { return (r - 1) * longueur_; }
+
+    int fd_ = -1;
+    int longueur_ = 0;
+    QString chemin_;
+};
+
+// The fixed channels of the record files, so that any routine can close or reuse a file
+// without holding a handle.
+namespace canal {
+inline constexpr int rv = 15;
+inline constexpr int notes = 16;
+inline constexpr int planning = 115;
+inline constexpr int param = 25;
+inline constexpr int cai020 = 28;
+inline constexpr int arr = 104;
+inline constexpr int clients = 38;
+inline constexpr int sms_messages = 41;
+inline constexpr int sms_init = 20;
+inline constexpr int fiche_rv = 181;
+inline constexpr int maximum = 255;
+} // namespace canal
+
+// The file behind a channel number (1 to 255).
+FichierRecords& canal_fichier(int numero);
+// The lowest channel with no open file.
+int canal_libre();
+// Closes every channel: the program's end.
+void ferme_tous_les_canaux();
+
+} // namespace agenda

@@ -1,0 +1,74 @@
+#include "data/param.h"
+
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/record.h"
+#include "data/texte.h"
+#include "ui/systeme.h"
+
+namespace agenda {
+
+namespace {
+
+FichierRecords& store() { return canal_fichier(canal::param); }
+
+void ferme_param() {
+    store().ferme();
+    ui::cede();
+}
+
+// The number (from 1) of the first record holding the key, or 0. `trouve` receives it.
+int cherche(const QString& cle, RecParam& trouve) {
+    const std::int32_t n = lit_record<RecParam>(store(), 1).nb_param;
+    for (std::int32_t i = 1; i <= n; ++i) {
+        trouve = lit_record<RecParam>(store(), i + 1);
+        if (trouve.cle_param == cle)
+            return i;
+    }
+    return 0;
+}
+
+} // namespace
+
+void ouvre_param() {
+    store().ferme();
+    ui::cede();
+    store().ouvre(etat.prefixe_dossier + QStringLiteral("WTORV_IA.WDO"), RecParam::longueur);
+    ui::cede();
+}
+
+QString lit_valeur_param(const QString& cle) {
+    ouvre_param();
+    RecParam rec;
+    const int i = cherche(cadre(cle, RecParam::lg_cle), rec);
+    const QString resultat = i > 0 ? rec.valeur_param.trimmed() : QString();
+    ferme_param();
+    return resultat;
+}
+
+void ecrit_param(const QString& cle, const QString& valeur) {
+    ouvre_param();
+    const QString cle_normale = cadre(cle, RecParam::lg_cle);
+    RecParam rec;
+    if (const int i = cherche(cle_normale, rec); i > 0) {
+        rec.valeur_param = valeur;
+        ecrit_record(store(), i + 1, rec);
+    } else {
+        // The header is counted before the record is written: a reader in between meets a
+        // blank key, which matches nothing.
+        rec = lit_record<RecParam>(store(), 1);
+        ++rec.nb_param;
+        ecrit_record(store(), 1, rec);
+        ui::cede();
+        const std::int32_t n = rec.nb_param;
+        rec.valeur_param = valeur; // fin_param stays as record 1 has it
+        rec.cle_param = cle_normale;
+        rec.num1_param = rec.nb_param = rec.num3_param = 0;
+        ecrit_record(store(), n + 1, rec);
+        ui::cede();
+    }
+    ferme_param();
+}
+
+} // namespace agenda

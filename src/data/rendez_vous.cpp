@@ -1,0 +1,128 @@
+#include "data/rendez_vous.h"
+
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/octets.h"
+#include "data/record.h"
+#include "data/texte.h"
+#include "ui/dates.h"
+#include "ui/systeme.h"
+
+#include <QByteArray>
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+namespace agenda {
+
+namespace {
+
+// Scans read this many records per system call.
+constexpr std::int64_t records_par_bloc = 256;
+
+// Calls `visite(number, record bytes)` for numbers 1 to `compte`, reading in large blocks.
+// Records the file does not hold are not visited: they would read as blank.
+template <class Visite>
+void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
+    std::vector<std::uint8_t> bloc(records_par_bloc * RecRv::longueur);
+    for (std::int64_t premier = 1; premier <= compte; premier += records_par_bloc) {
+        const std::int64_t n = std::min<std::int64_t>(records_par_bloc, compte - premier + 1);
+        const std::size_t lu =
+            f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * RecRv::longueur));
+        const std::int64_t complets = std::int64_t(lu) / RecRv::longueur;
+        for (std::int64_t j = 0; j < complets; ++j) {
+            const auto rec = std::span<const std::uint8_t>(bloc.data() + j * RecRv::longueur,
+                                                           RecRv::longueur);
+            if (!visite(static_cast<std::int32_t>(premier + j), rec))
+                return;
+        }
+        if (complets < n) {
+            // A last record cut short: read it on its own, so that its missing bytes are blank.
+            if (lu % RecRv::longueur != 0) {
+                auto dernier = image_vierge<RecRv>();
+                f.lit(premier + complets + 1, dernier);
+                visite(static_cast<std::int32_t>(premier + complets), std::span(dernier));
+            }
+            return;
+        }
+    }
+}
+
+bool commence_par(std::span<const std::uint8_t> rec, const QByteArray& motif) {
+    return std::memcmp(rec.data(), motif.constData(), std::size_t(motif.size())) == 0;
+}
+
+} // namespace
+
+std::int32_t alloue_numero(FichierRecords& f) {
+    RecRv entete = lit_record<RecRv>(f, 1);
+    const std::int32_t n = ++entete.dernier_num;
+    ecrit_record(f, 1, entete);
+    ui::cede();
+    RecRv vide;
+    vide.fin_rec = QStringLiteral("\r\n");
+    ecrit_record(f, n + 1, vide);
+    return n;
+}
+
+std::int32_t repare_entete(FichierRecords& f) {
+    RecRv entete = lit_record<RecRv>(f, 1);
+    const double present = double(f.taille()) / RecRv::longueur - 1;
+    if (present > entete.dernier_num) {
+        entete.dernier_num = static_cast<std::int32_t>(std::nearbyint(present));
+        ecrit_record(f, 1, entete);
+    }
+    return entete.dernier_num;
+}
+
+QString motif_jour(Date d) { return ui::format_date(d, u"yymmdd"); }
+
+QString cle_rendez_vous(Date jour, int heure, int minute, int heure_fin, int minute_fin) {
+    return motif_jour(jour) + QLatin1Char(':') + motif_zeros(heure, 2) + QLatin1Char('H') +
+           motif_zeros(minute, 2) + QLatin1Char(':') + motif_zeros(heure_fin, 2) +
+           QLatin1Char('H') + motif_zeros(minute_fin, 2) + QStringLiteral("  ");
+}
+
+std::int32_t code_jour(Date jour) {
+    const QDate d = ui::jour_de(jour);
+    return d.day() + 31 * d.month();
+}
+
+QStringList scan_journee(FichierRecords& f, Date jour) {
+    // The count is taken wide: a file past 32,767 records is scanned whole.
+    const std::int32_t compte = repare_entete(f);
+    const QByteArray motif = octets::vers_cp1252(motif_jour(jour));
+    QStringList liste;
+    parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        if (commence_par(rec, motif)) {
+            liste.append(octets::texte(rec, RecRv::off_cle, 19) + motif_zeros(i, 6) +
+                         QLatin1Char(':') + QString::number(octets::i32(rec, RecRv::off_encadre)) +
+                         QStringLiteral("xxxxxxxxx:") +
+                         QString::number(octets::i32(rec, RecRv::off_couleur)));
+        }
+        return true;
+    });
+    return liste;
+}
+
+void charge_journee() { etat.liste_jour = scan_journee(canal_fichier(canal::rv), etat.date_courante); }
+
+std::int32_t cherche_note(const QString& cle) {
+    auto& f = canal_fichier(canal::notes);
+    const std::int32_t compte = lit_record<RecRv>(f, 1).dernier_num;
+    const QByteArray motif = octets::vers_cp1252(cadre(cle, 9));
+    std::int32_t trouve = 0;
+    parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        if (!commence_par(rec, motif))
+            return true;
+        trouve = i;
+        return false;
+    });
+    return trouve;
+}
+
+std::int32_t entree_jour::numero(const QString& e) {
+    return static_cast<std::int32_t>(val(e.mid(19, 6)));
+}
+
+} // namespace agenda

@@ -1,0 +1,47 @@
+#pragma once
+// The appointment and note files (tf_r, tf_a): numbers allotted by appending, the header
+// repaired by the file's length, the day scan and the note scan.
+
+#include "data/etat.h"
+
+#include <QString>
+#include <cstdint>
+
+namespace agenda {
+
+class FichierRecords;
+
+// Raises dernier_num of record 1 and writes an empty record for the new number, which it
+// returns.
+std::int32_t alloue_numero(FichierRecords& f);
+
+// Brings a header that lags behind the file's length back into line; returns the count.
+std::int32_t repare_entete(FichierRecords& f);
+
+// The day pattern "yymmdd" of a date.
+QString motif_jour(Date d);
+// The key of an appointment: "yymmdd:HHHMM:HHHMM" and two blanks.
+QString cle_rendez_vous(Date jour, int heure, int minute, int heure_fin, int minute_fin);
+// The day of the month plus 31 times the month.
+std::int32_t code_jour(Date jour);
+
+// Fills liste_jour for date_courante from the book's file (channel 15). Each entry is the first
+// 19 characters of the key, the number in "000000", ":", the frame flag, "xxxxxxxxx", ":" and
+// the colour.
+void charge_journee();
+// The same scan on any file and for any day, for views that show other days or collaborators.
+QStringList scan_journee(FichierRecords& f, Date jour);
+
+// The number of the first note whose first nine characters are the key ("JO:yymmdd",
+// "SE:yymmdd"), or 0. The note file must be open on channel 16.
+std::int32_t cherche_note(const QString& cle);
+
+// Where the fields stand in an entry of liste_jour.
+namespace entree_jour {
+inline QString heure_debut(const QString& e) { return e.mid(7, 5); } // characters 8 to 12
+inline QString heure_fin(const QString& e) { return e.mid(13, 5); }   // characters 14 to 18
+std::int32_t numero(const QString& e);                                 // characters 20 to 25
+inline bool encadre(const QString& e) { return e.mid(26, 1) == QLatin1String("1"); }
+} // namespace entree_jour
+
+} // namespace agenda

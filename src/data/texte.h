@@ -1,0 +1,31 @@
+#pragma once
+// Values pass through texts read by position in fixed layouts; these are the readings and
+// patterns they use.
+
+#include <QString>
+
+namespace agenda {
+
+// The numeric reading of a text: leading blanks skipped, an optional sign, digits and a
+// decimal part, up to the first character that does not fit; 0 for nothing.
+double val(QStringView s);
+
+// Characters `debut` (from 1) to `debut + longueur - 1`, as far as the text goes.
+inline QString mid1(const QString& s, int debut, int longueur) {
+    return s.mid(debut - 1, longueur);
+}
+inline QString mid1(const QString& s, int debut) { return s.mid(debut - 1); }
+
+// A number in the pattern "0", "00", "0000"...: rounded half away from zero, padded with
+// leading zeros to the width, never cut.
+QString motif_zeros(double valeur, int chiffres);
+
+// Blanks added and the text cut to exactly `largeur` characters.
+inline QString cadre(const QString& s, int largeur) {
+    return s.leftJustified(largeur, QLatin1Char(' '), true);
+}
+
+// The first letter in upper case, the rest as is.
+QString initiale_majuscule(const QString& s);
+
+} // namespace agenda

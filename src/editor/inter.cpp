@@ -1,0 +1,141 @@
+#include "editor/inter.h"
+
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/record.h"
+#include "data/texte.h"
+#include "ui/dates.h"
+
+#include <array>
+
+namespace agenda {
+
+using namespace octets;
+
+RecInter RecInter::charge(TamponLu b) {
+    RecInter r;
+    r.cle_inter = texte(b, off_cle, lg_cle);
+    r.zone_15 = texte(b, off_zone_15, lg_zone_15);
+    r.valeur_inter = texte(b, off_valeur, lg_valeur);
+    r.zone_63 = texte(b, off_zone_63, lg_zone_63);
+    r.zone_64 = texte(b, off_zone_64, lg_zone_64);
+    r.nb_inter = i32(b, off_nb);
+    return r;
+}
+
+void RecInter::range(Tampon b) const {
+    pose_texte(b, off_cle, lg_cle, cle_inter);
+    pose_texte(b, off_zone_15, lg_zone_15, zone_15);
+    pose_texte(b, off_valeur, lg_valeur, valeur_inter);
+    pose_texte(b, off_zone_63, lg_zone_63, zone_63);
+    pose_texte(b, off_zone_64, lg_zone_64, zone_64);
+    pose_i32(b, off_nb, nb_inter);
+}
+
+namespace {
+
+const QString marque_init = QStringLiteral("#INIT#");
+
+int canal_inter = 0;
+std::int32_t compte_inter = 0;
+
+FichierRecords& intlog() { return canal_fichier(canal_inter); }
+
+void ferme_inter() {
+    intlog().ferme();
+    canal_inter = 0;
+}
+
+QString cle_recherche(const QString& cle) { return cadre(cle.trimmed(), RecInter::lg_cle).toUpper(); }
+
+bool porte_marque(const RecInter& r) { return r.cle_inter.startsWith(marque_init); }
+
+const std::array<QString, 10> lignes_fiche = {
+    QStringLiteral("Merci de noter"),    QStringLiteral("votre prochain"),
+    QStringLiteral("rendez-vous"),       QStringLiteral("merci de prévenir"),
+    QStringLiteral("en cas d'impossibilité"), QStringLiteral("de votre part"),
+    QString(), QString(), QString(), QString(),
+};
+
+} // namespace
+
+void ouvre_inter() {
+    canal_inter = canal_libre();
+    intlog().ouvre(QStringLiteral("W_intlog.wdo"), RecInter::longueur);
+    RecInter entete = lit_record<RecInter>(intlog(), 1);
+    if (!porte_marque(entete)) {
+        ajoute_inter();
+        // The buffer is the blank entry ajoute_inter just wrote.
+        entete = RecInter{};
+        entete.cle_inter = marque_init;
+        entete.nb_inter = 0;
+        ecrit_record(intlog(), 1, entete);
+    }
+    compte_inter = entete.nb_inter;
+}
+
+std::int32_t ajoute_inter() {
+    RecInter entete = lit_record<RecInter>(intlog(), 1);
+    const std::int32_t n = ++entete.nb_inter;
+    ecrit_record(intlog(), 1, entete);
+    ecrit_record(intlog(), n + 1, RecInter{});
+    return n;
+}
+
+std::int32_t cherche_inter(const QString& cle) {
+    for (std::int32_t i = 1; i <= compte_inter; ++i)
+        if (lit_record<RecInter>(intlog(), i + 1).cle_inter == cle)
+            return i;
+    return -1;
+}
+
+QString lit_inter(const QString& cle) {
+    ouvre_inter();
+    const std::int32_t n = cherche_inter(cle_recherche(cle));
+    const QString valeur = n > 0 ? lit_record<RecInter>(intlog(), n + 1).valeur_inter : QString();
+    ferme_inter();
+    return valeur;
+}
+
+void ecrit_inter(const QString& cle, const QString& valeur) {
+    ouvre_inter();
+    const QString recherche = cle_recherche(cle);
+    std::int32_t n = cherche_inter(recherche);
+    if (n < 0)
+        n = ajoute_inter();
+    RecInter r = lit_record<RecInter>(intlog(), n + 1);
+    r.cle_inter = recherche;
+    r.valeur_inter = valeur;
+    ecrit_record(intlog(), n + 1, r);
+    ferme_inter();
+}
+
+RecInter ouvre_rvv_181() {
+    auto& f = canal_fichier(canal::fiche_rv);
+    f.ferme();
+    f.ouvre(etat.prefixe_dossier + QStringLiteral("wrv181ff.wdo"), RecInter::longueur);
+    RecInter r = lit_record<RecInter>(f, 1);
+    if (porte_marque(r))
+        return r;
+    r.cle_inter = marque_init + ui::format_date(ui::date_maintenant(), u"dd/mm/yyyy");
+    r.zone_64 = r.zone_15 = r.valeur_inter = r.zone_63 = QString();
+    ecrit_record(f, 1, r);
+    for (std::size_t i = 0; i < lignes_fiche.size(); ++i) {
+        r.valeur_inter = lignes_fiche[i];
+        ecrit_record(f, static_cast<std::int64_t>(i) + 2, r);
+    }
+    return r;
+}
+
+void ecrit_rendez_vous(const QString& date_en_lettres, const QString& heure,
+                       const QString& minute) {
+    // The lines take the other fields of the buffer that the opening left: record 1's.
+    RecInter r = ouvre_rvv_181();
+    auto& f = canal_fichier(canal::fiche_rv);
+    r.valeur_inter = date_en_lettres.trimmed();
+    ecrit_record(f, 8, r);
+    r.valeur_inter = QStringLiteral("à : ") + heure + QStringLiteral(" H ") + minute;
+    ecrit_record(f, 9, r);
+}
+
+} // namespace agenda

@@ -1,0 +1,29 @@
+#pragma once
+// Twips to device-independent pixels. The book is designed in twips; the factor is chosen once
+// so that it fills the screen, and Qt takes device pixels from there on HiDPI screens.
+
+#include "ui/geometrie.h"
+
+#include <QFont>
+#include <QRect>
+
+class QScreen;
+class QWidget;
+
+namespace agenda::ui {
+
+double px_par_twip();
+void fixe_echelle(double px_par_twip);
+// The largest factor at which the book fits the screen's free area.
+void echelle_pour_ecran(const QScreen* ecran);
+
+int px(double twips);
+int twips(int pixels);
+QRect px(const RectTwips& r);
+
+// Places a widget at a rectangle given in twips of its parent.
+void place(QWidget& w, const RectTwips& r);
+// A font of so many points at the book's scale.
+QFont police(const QString& nom, double points, bool gras = false);
+
+} // namespace agenda::ui

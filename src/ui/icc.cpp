@@ -1,0 +1,192 @@
+#include "ui/icc.h"
+
+#include <QFontMetrics>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+#include <QRandomGenerator>
+#include <array>
+
+namespace agenda::ui::icc {
+
+namespace {
+
+const QColor cuir_clair(0x7a, 0x22, 0x2a);
+const QColor cuir_fonce(0x3b, 0x0c, 0x12);
+const QColor or_vieux(0xc9, 0xa4, 0x4c);
+const QColor papier(0xfb, 0xf6, 0xe8);
+const QColor papier_ombre(0xe2, 0xd6, 0xbb);
+const QColor encre(0x4a, 0x2c, 0x1a);
+
+QPixmap vierge(QSize t) {
+    QPixmap p(t.expandedTo(QSize(1, 1)));
+    p.fill(Qt::transparent);
+    return p;
+}
+
+// A grain so that the leather does not look like plastic; the same at every drawing.
+void grain(QPainter& g, QSize t, int densite, QColor c) {
+    QRandomGenerator rng(20040303);
+    const int n = t.width() * t.height() / densite;
+    for (int i = 0; i < n; ++i) {
+        c.setAlpha(int(rng.bounded(10, 40)));
+        g.setPen(c);
+        g.drawPoint(int(rng.bounded(t.width())), int(rng.bounded(t.height())));
+    }
+}
+
+const std::array<const char*, 6> titres = {"Jour", "Semaine", "Année",
+                                           "Planning", "Recherche", "Sortie"};
+
+QPixmap titre_onglet(int i, QSize t, bool gauche) {
+    QPixmap p = vierge(t);
+    if (i < 0 || i >= int(titres.size()))
+        return p;
+    QPainter g(&p);
+    g.setRenderHint(QPainter::TextAntialiasing);
+    QFont f(QStringLiteral("DejaVu Serif"));
+    f.setBold(true);
+    // As large as the tab allows, the longest title included.
+    const QString titre = QString::fromUtf8(titres[std::size_t(i)]);
+    int taille = std::max(6, t.width() * 9 / 20);
+    for (f.setPixelSize(taille); taille > 6; f.setPixelSize(--taille))
+        if (QFontMetrics(f).horizontalAdvance(QString::fromUtf8(titres[4])) <= t.height() * 0.85)
+            break;
+    g.setFont(f);
+    g.setPen(encre);
+    // Written along the edge, reading from the page outwards.
+    g.translate(t.width() / 2.0, t.height() / 2.0);
+    g.rotate(gauche ? -90 : 90);
+    g.drawText(QRectF(-t.height() / 2.0, -t.width() / 2.0, t.height(), t.width()),
+               Qt::AlignCenter, titre);
+    return p;
+}
+
+} // namespace
+
+QPixmap couverture(QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    QRadialGradient rg(t.width() / 2.0, t.height() / 2.0, std::max(t.width(), t.height()) * 0.7);
+    rg.setColorAt(0, cuir_clair);
+    rg.setColorAt(1, cuir_fonce);
+    g.fillRect(p.rect(), rg);
+    grain(g, t, 6, Qt::black);
+    // A gilt fillet round the boards.
+    const int m = std::max(2, t.width() / 160);
+    g.setPen(QPen(or_vieux, std::max(1, m / 3)));
+    g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
+    return p;
+}
+
+QPixmap page(QSize t, bool gauche) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    QPainterPath bord;
+    const qreal r = t.width() / 60.0;
+    bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
+    // The paper darkens towards the gutter, where the page curves into the binding.
+    QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
+    lg.setColorAt(0, papier_ombre);
+    lg.setColorAt(0.08, papier);
+    lg.setColorAt(0.97, papier);
+    lg.setColorAt(1, papier_ombre);
+    g.fillPath(bord, lg);
+    grain(g, t, 40, QColor(0x80, 0x60, 0x30));
+    // The edges of the leaves underneath, on the fore-edge side.
+    g.setPen(QPen(papier_ombre.darker(110), 1));
+    for (int i = 1; i <= 3; ++i) {
+        const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
+        g.drawLine(x, int(r), x, t.height() - int(r));
+    }
+    return p;
+}
+
+QPixmap reliure(QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    QLinearGradient lg(0, 0, t.width(), 0);
+    lg.setColorAt(0, papier_ombre.darker(130));
+    lg.setColorAt(0.25, cuir_fonce);
+    lg.setColorAt(0.5, cuir_clair);
+    lg.setColorAt(0.75, cuir_fonce);
+    lg.setColorAt(1, papier_ombre.darker(130));
+    g.fillRect(p.rect(), lg);
+    // Gilt bands at head and tail, and the ribbon marker.
+    g.setPen(QPen(or_vieux, std::max(1, t.width() / 20)));
+    for (const double y : {0.04, 0.06, 0.94, 0.96})
+        g.drawLine(0, int(t.height() * y), t.width(), int(t.height() * y));
+    const int rw = std::max(2, t.width() / 6);
+    g.fillRect(QRect(t.width() / 2 - rw / 2, int(t.height() * 0.6), rw, int(t.height() * 0.4)),
+               QColor(0x9e, 0x1b, 0x1b));
+    return p;
+}
+
+QPixmap p11g(int i, QSize t) { return titre_onglet(i, t, true); }
+QPixmap p11d(int i, QSize t) { return titre_onglet(i, t, false); }
+
+QPixmap fleche(bool vers_la_gauche, QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    const qreal w = t.width(), h = t.height();
+    QPainterPath tri;
+    if (vers_la_gauche) {
+        tri.moveTo(w * 0.15, h / 2);
+        tri.lineTo(w * 0.85, h * 0.15);
+        tri.lineTo(w * 0.85, h * 0.85);
+    } else {
+        tri.moveTo(w * 0.85, h / 2);
+        tri.lineTo(w * 0.15, h * 0.15);
+        tri.lineTo(w * 0.15, h * 0.85);
+    }
+    tri.closeSubpath();
+    g.fillPath(tri, cuir_clair);
+    g.setPen(QPen(or_vieux, std::max(1.0, w / 24)));
+    g.drawPath(tri);
+    return p;
+}
+
+QPixmap piece_cadre(int coin, int i, QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    const bool vertical = i == 4 || i == 6;
+    QLinearGradient lg(0, 0, vertical ? t.width() : 0, vertical ? 0 : t.height());
+    lg.setColorAt(0, cuir_fonce);
+    lg.setColorAt(0.5, cuir_clair);
+    lg.setColorAt(1, cuir_fonce);
+    g.fillRect(p.rect(), lg);
+    if (i < 4) {
+        // A gilt boss on each corner; larger on the wide frame.
+        const qreal d = std::min(t.width(), t.height()) * (coin > 200 ? 0.5 : 0.6);
+        g.setBrush(or_vieux);
+        g.setPen(Qt::NoPen);
+        g.drawEllipse(QRectF((t.width() - d) / 2, (t.height() - d) / 2, d, d));
+    }
+    return p;
+}
+
+QPixmap bouton(bool oui, QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    const QRectF r(1, 1, t.width() - 2, t.height() - 2);
+    g.setBrush(oui ? QColor(0x2e, 0x7d, 0x32) : QColor(0xa3, 0x1f, 0x24));
+    g.setPen(QPen(or_vieux, 2));
+    g.drawRoundedRect(r, r.height() / 4, r.height() / 4);
+    g.setPen(QPen(Qt::white, std::max(2.0, r.height() / 10), Qt::SolidLine, Qt::RoundCap));
+    const qreal cx = r.center().x(), cy = r.center().y(), k = r.height() / 4;
+    if (oui) {
+        g.drawLine(QPointF(cx - k, cy), QPointF(cx - k / 3, cy + k * 0.7));
+        g.drawLine(QPointF(cx - k / 3, cy + k * 0.7), QPointF(cx + k, cy - k * 0.7));
+    } else {
+        g.drawLine(QPointF(cx - k * 0.7, cy - k * 0.7), QPointF(cx + k * 0.7, cy + k * 0.7));
+        g.drawLine(QPointF(cx - k * 0.7, cy + k * 0.7), QPointF(cx + k * 0.7, cy - k * 0.7));
+    }
+    return p;
+}
+
+} // namespace agenda::ui::icc

@@ -1,0 +1,57 @@
+#include "ui/surface.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPalette>
+#include <cmath>
+
+namespace agenda::ui {
+
+QColor couleur(std::int32_t bbggrr) {
+    const auto v = static_cast<std::uint32_t>(bbggrr);
+    if (v & 0x80000000u) {
+        // The few system colours the files may hold.
+        const QPalette p = QGuiApplication::palette();
+        switch (v & 0xFF) {
+        case 5: return p.color(QPalette::Base);         // window background
+        case 8: return p.color(QPalette::Text);         // window text
+        case 15: return p.color(QPalette::Button);      // button face
+        default: return p.color(QPalette::Window);
+        }
+    }
+    return QColor(int(v & 0xFF), int(v >> 8 & 0xFF), int(v >> 16 & 0xFF));
+}
+
+namespace {
+// A font whose pixel size is its height in twips, so that measures come out in twips
+// whatever the screen.
+QFont police_twips(const QString& nom, double points) {
+    QFont f(nom);
+    f.setPixelSize(std::max(1, int(std::lround(points * twips_par_point))));
+    return f;
+}
+} // namespace
+
+void Surface::efface() {
+    traits_.clear();
+    textes_.clear();
+}
+
+void Surface::ligne(int x1, int y1, int x2, int y2, std::int32_t c) {
+    traits_.push_back({x1, y1, x2, y2, c, pointille_});
+}
+
+void Surface::ecrit(int x, int y, const QString& texte) {
+    textes_.push_back({x, y, texte, police_, taille_, couleur_texte_});
+}
+
+int Surface::largeur_texte(const QString& texte) const {
+    return int(std::lround(QFontMetricsF(police_twips(police_, taille_)).horizontalAdvance(texte)));
+}
+
+int Surface::hauteur_texte(const QString&) const {
+    return int(std::lround(QFontMetricsF(police_twips(police_, taille_)).height()));
+}
+
+} // namespace agenda::ui

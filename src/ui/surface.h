@@ -1,0 +1,56 @@
+#pragma once
+// A drawing surface in twips. Drawing records what was drawn; the widget that shows the
+// surface replays it at the screen's scale, and tests read it back in twips.
+
+#include <QColor>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+namespace agenda::ui {
+
+// 0x00BBGGRR as the files keep colours; 0x800000nn is the system colour nn.
+QColor couleur(std::int32_t bbggrr);
+
+// Font sizes are points; a point is 20 twips.
+inline constexpr int twips_par_point = 20;
+
+class Surface {
+public:
+    struct Trait {
+        int x1, y1, x2, y2;
+        std::int32_t couleur;
+        bool pointille;
+    };
+    struct Texte {
+        int x, y; // top-left
+        QString texte;
+        QString police;
+        double taille;
+        std::int32_t couleur;
+    };
+
+    void efface();
+    void police(const QString& nom) { police_ = nom; }
+    void taille_police(double points) { taille_ = points; }
+    void couleur_texte(std::int32_t c) { couleur_texte_ = c; }
+    void style_pointille(bool oui) { pointille_ = oui; }
+    void ligne(int x1, int y1, int x2, int y2, std::int32_t couleur);
+    void ecrit(int x, int y, const QString& texte);
+    // Width and height of a text in the current font, in twips.
+    int largeur_texte(const QString& texte) const;
+    int hauteur_texte(const QString& texte) const;
+
+    const std::vector<Trait>& traits() const { return traits_; }
+    const std::vector<Texte>& textes() const { return textes_; }
+
+private:
+    QString police_ = QStringLiteral("Arial");
+    double taille_ = 8;
+    std::int32_t couleur_texte_ = 0;
+    bool pointille_ = false;
+    std::vector<Trait> traits_;
+    std::vector<Texte> textes_;
+};
+
+} // namespace agenda::ui

@@ -1,0 +1,89 @@
+#include "ui/systeme.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QGuiApplication>
+#include <QProcess>
+#include <cstdio>
+#include <cstdlib>
+
+namespace agenda::ui {
+
+namespace {
+std::function<QDateTime()>& horloge() {
+    static std::function<QDateTime()> h;
+    return h;
+}
+std::function<void(int)>& fin() {
+    static std::function<void(int)> f;
+    return f;
+}
+std::function<bool(const QString&)>& lanceur() {
+    static std::function<bool(const QString&)> l;
+    return l;
+}
+} // namespace
+
+QDateTime maintenant() { return horloge() ? horloge()() : QDateTime::currentDateTime(); }
+
+double secondes_depuis_minuit() {
+    const QTime t = maintenant().time();
+    return t.msecsSinceStartOfDay() / 1000.0;
+}
+
+void fixe_horloge(std::function<QDateTime()> h) { horloge() = std::move(h); }
+
+void cede() {
+    if (QCoreApplication::instance())
+        QCoreApplication::processEvents();
+}
+
+void pose_pointeur(Pointeur p) {
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return;
+    QGuiApplication::restoreOverrideCursor();
+    if (p == Pointeur::sablier)
+        QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+}
+
+bool lance_commande(const QString& ligne) {
+    if (lanceur())
+        return lanceur()(ligne);
+    QStringList mots = QProcess::splitCommand(ligne);
+    if (mots.isEmpty())
+        return false;
+    const QString programme = mots.takeFirst();
+    return QProcess::startDetached(programme, mots);
+}
+
+void fixe_lanceur(std::function<bool(const QString&)> l) { lanceur() = std::move(l); }
+
+} // namespace agenda::ui
+
+namespace agenda::ui {
+
+namespace {
+std::function<void(const QString&)>& montre_message() {
+    static std::function<void(const QString&)> m;
+    return m;
+}
+} // namespace
+
+void message_fatal(const QString& message) {
+    std::fprintf(stderr, "Agenda : %s\n", message.toLocal8Bit().constData());
+    if (montre_message())
+        montre_message()(message);
+}
+
+void fixe_message_fatal(std::function<void(const QString&)> m) { montre_message() = std::move(m); }
+
+void termine(int code) {
+    if (fin())
+        fin()(code);
+    std::fflush(nullptr);
+    std::exit(code);
+}
+
+void fixe_fin(std::function<void(int)> f) { fin() = std::move(f); }
+
+} // namespace agenda::ui

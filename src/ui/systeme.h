@@ -1,0 +1,40 @@
+#pragma once
+// What the program asks of the platform outside windows: the time, yielding to the event loop,
+// the mouse pointer and starting another program. Tests set the clock.
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+
+namespace agenda::ui {
+
+// The one clock of the program.
+QDateTime maintenant();
+// Seconds since midnight, as the clock says.
+double secondes_depuis_minuit();
+// Replaces the clock (tests); an empty function gives the system's clock back.
+void fixe_horloge(std::function<QDateTime()> horloge);
+
+// Lets the other events of this workstation run.
+void cede();
+
+enum class Pointeur { fleche, sablier };
+void pose_pointeur(Pointeur p);
+
+// Starts a command line in a normal window without waiting and without a shell: the first
+// word is the program, the rest its arguments.
+bool lance_commande(const QString& ligne);
+// Replaces the launcher (tests); an empty function gives the real one back.
+void fixe_lanceur(std::function<bool(const QString&)> lanceur);
+
+// Tells the operator why the program ends: on the error output, and in a window where the
+// program has set one up.
+void message_fatal(const QString& message);
+void fixe_message_fatal(std::function<void(const QString&)> montre);
+
+// Ends the program at once with this status; the caller has closed its files.
+[[noreturn]] void termine(int code);
+// Replaces the end (tests): the function must not return, it throws.
+void fixe_fin(std::function<void(int)> fin);
+
+} // namespace agenda::ui

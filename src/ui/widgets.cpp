@@ -1,0 +1,102 @@
+#include "ui/widgets.h"
+
+#include "ui/echelle.h"
+#include "ui/geometrie.h"
+#include "ui/icc.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <cmath>
+
+namespace agenda::ui {
+
+VueSurface::VueSurface(QWidget* parent, Fond fond) : QWidget(parent), fond_(std::move(fond)) {}
+
+void VueSurface::montre(const Surface* surface) {
+    surface_ = surface;
+    update();
+}
+
+void VueSurface::paintEvent(QPaintEvent*) {
+    QPainter g(this);
+    if (fond_) {
+        const QSize voulu = size() * devicePixelRatioF();
+        if (fond_cache_.size() != voulu) {
+            fond_cache_ = fond_(voulu);
+            fond_cache_.setDevicePixelRatio(devicePixelRatioF());
+        }
+        g.drawPixmap(0, 0, fond_cache_);
+    }
+    if (!surface_)
+        return;
+    g.setRenderHint(QPainter::Antialiasing);
+    g.setRenderHint(QPainter::TextAntialiasing);
+    g.scale(px_par_twip(), px_par_twip());
+    for (const auto& t : surface_->traits()) {
+        QPen pen(couleur(t.couleur), 0);
+        pen.setStyle(t.pointille ? Qt::DotLine : Qt::SolidLine);
+        g.setPen(pen);
+        g.drawLine(t.x1, t.y1, t.x2, t.y2);
+    }
+    for (const auto& t : surface_->textes()) {
+        QFont f(t.police);
+        f.setPixelSize(std::max(1, int(std::lround(t.taille * twips_par_point))));
+        g.setFont(f);
+        g.setPen(couleur(t.couleur));
+        g.drawText(QRectF(t.x, t.y, 20000, 20000), Qt::AlignLeft | Qt::AlignTop, t.texte);
+    }
+}
+
+namespace {
+
+QSize ecran_twips(const QWidget& w) {
+    const QScreen* s = w.screen() ? w.screen() : QGuiApplication::primaryScreen();
+    const QRect r = s ? s->availableGeometry() : QRect(0, 0, 1024, 768);
+    return {twips(r.width()), twips(r.height())};
+}
+
+void pose(QWidget& w, const RectTwips& r) {
+    w.resize(px(r.width), px(r.height));
+    w.move(px(r.left), px(r.top));
+}
+
+void pose_cadre(QWidget& fenetre, int coin) {
+    const int W = twips(fenetre.width()), H = twips(fenetre.height());
+    const auto pieces = pieces_cadre(W, H, coin);
+    for (int i = 0; i < 8; ++i) {
+        const QString nom = QStringLiteral("c%1").arg(i);
+        auto* c = fenetre.findChild<QLabel*>(nom, Qt::FindDirectChildrenOnly);
+        if (!c) {
+            c = new QLabel(&fenetre);
+            c->setObjectName(nom);
+            c->setScaledContents(true);
+        }
+        place(*c, pieces[std::size_t(i)]);
+        c->setPixmap(icc::piece_cadre(coin, i, c->size()));
+        c->show();
+        c->lower();
+    }
+}
+
+} // namespace
+
+void centre_fenetre(QWidget& w) {
+    const QSize e = ecran_twips(w);
+    pose(w, centre(e.width(), e.height(), twips(w.width()), twips(w.height())));
+}
+
+void centre_fenetre_haut(QWidget& w) {
+    pose(w, centre_haut(ecran_twips(w).width(), twips(w.width()), twips(w.height())));
+}
+
+void taille_fenetre(QWidget& w) {
+    pose(w, taille_livre(ecran_twips(w).width()));
+    w.raise();
+}
+
+void pose_cadre_fin(QWidget& fenetre) { pose_cadre(fenetre, coin_fin); }
+void pose_cadre_large(QWidget& fenetre) { pose_cadre(fenetre, coin_large); }
+
+} // namespace agenda::ui

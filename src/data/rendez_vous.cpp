@@ -9,7 +9,9 @@
 #include "ui/systeme.h"
 
 #include <QByteArray>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -18,13 +20,15 @@ namespace agenda {
 namespace {
 
 // Scans read this many records per system call.
-constexpr std::int64_t records_par_bloc = 256;
+constexpr std::int64_t records_par_bloc = 512;
 
 // Calls `visite(number, record bytes)` for numbers 1 to `compte`, reading in large blocks.
 // Records the file does not hold are not visited: they would read as blank.
 template <class Visite>
 void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
-    std::vector<std::uint8_t> bloc(records_par_bloc * RecRv::longueur);
+    // One scratch block per thread, kept: a fresh one would be mapped and faulted in at every
+    // scan. It holds bytes only for the length of one call; nothing is served from it later.
+    thread_local std::vector<std::uint8_t> bloc(records_par_bloc * RecRv::longueur);
     for (std::int64_t premier = 1; premier <= compte; premier += records_par_bloc) {
         const std::int64_t n = std::min<std::int64_t>(records_par_bloc, compte - premier + 1);
         const std::size_t lu =
@@ -48,9 +52,35 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
     }
 }
 
-bool commence_par(std::span<const std::uint8_t> rec, const QByteArray& motif) {
-    return std::memcmp(rec.data(), motif.constData(), std::size_t(motif.size())) == 0;
+// An entry of the day list, built in one piece: it is made for every appointment of the day
+// at every load.
+QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
+    constexpr int debut_cle = 19;
+    char suite[48];
+    const int n = std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
+                                octets::i32(rec, RecRv::off_encadre),
+                                octets::i32(rec, RecRv::off_couleur));
+    QString e(debut_cle + n, Qt::Uninitialized);
+    for (int k = 0; k < debut_cle; ++k)
+        e[k] = octets::car_cp1252(rec[std::size_t(RecRv::off_cle + k)]);
+    for (int k = 0; k < n; ++k)
+        e[debut_cle + k] = QLatin1Char(suite[k]);
+    return e;
 }
+
+// A key's first N characters, as bytes; N is fixed so that the comparison is inlined, which
+// matters when it runs on every record of the file.
+template <std::size_t N>
+struct DebutCle {
+    explicit DebutCle(const QString& texte) {
+        const QByteArray b = octets::vers_cp1252(cadre(texte, int(N)));
+        std::memcpy(octets.data(), b.constData(), N);
+    }
+    bool ouvre(std::span<const std::uint8_t> rec) const {
+        return std::memcmp(rec.data(), octets.data(), N) == 0;
+    }
+    std::array<std::uint8_t, N> octets{};
+};
 
 } // namespace
 
@@ -91,15 +121,11 @@ std::int32_t code_jour(Date jour) {
 QStringList scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
     const std::int32_t compte = repare_entete(f);
-    const QByteArray motif = octets::vers_cp1252(motif_jour(jour));
+    const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
     parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        if (commence_par(rec, motif)) {
-            liste.append(octets::texte(rec, RecRv::off_cle, 19) + motif_zeros(i, 6) +
-                         QLatin1Char(':') + QString::number(octets::i32(rec, RecRv::off_encadre)) +
-                         QStringLiteral("xxxxxxxxx:") +
-                         QString::number(octets::i32(rec, RecRv::off_couleur)));
-        }
+        if (motif.ouvre(rec))
+            liste.append(entree_du_jour(i, rec));
         return true;
     });
     return liste;
@@ -110,10 +136,10 @@ void charge_journee() { etat.liste_jour = scan_journee(canal_fichier(canal::rv),
 std::int32_t cherche_note(const QString& cle) {
     auto& f = canal_fichier(canal::notes);
     const std::int32_t compte = lit_record<RecRv>(f, 1).dernier_num;
-    const QByteArray motif = octets::vers_cp1252(cadre(cle, 9));
+    const DebutCle<9> motif(cle);
     std::int32_t trouve = 0;
     parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        if (!commence_par(rec, motif))
+        if (!motif.ouvre(rec))
             return true;
         trouve = i;
         return false;

@@ -1,0 +1,122 @@
+// The day scan against a plain sequential read of the same bytes, in the same run. The scan
+// has no index by design, so it should cost what reading the file costs.
+
+#include "data/dossier.h"
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/record.h"
+#include "data/rendez_vous.h"
+#include "ui/dates.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <fcntl.h>
+#include <map>
+#include <unistd.h>
+#include <vector>
+
+using namespace agenda;
+
+namespace {
+
+constexpr int records = 32767; // the header and 32,766 appointments
+constexpr int du_jour = 200;
+const Date jour = ui::date_de(QDate(2026, 11, 22));
+
+// One collaborator's file over ten years, 200 appointments on the day measured.
+void genere() {
+    FichierRecords f;
+    f.ouvre(nom_fichier_rv(0, false), RecRv::longueur);
+    std::vector<std::uint8_t> tout(std::size_t(records) * RecRv::longueur);
+    QRandomGenerator rng(42);
+    std::vector<bool> sur_le_jour(records, false);
+    for (int n = 0; n < du_jour;) {
+        const int i = 1 + int(rng.bounded(records - 1));
+        if (!sur_le_jour[std::size_t(i)]) {
+            sur_le_jour[std::size_t(i)] = true;
+            ++n;
+        }
+    }
+    for (int r = 1; r <= records; ++r) {
+        RecRv rec;
+        rec.fin_rec = QStringLiteral("\r\n");
+        if (r == 1) {
+            rec.dernier_num = records - 1;
+        } else {
+            Date d = jour - 1800 + rng.bounded(3600);
+            if (sur_le_jour[std::size_t(r - 1)])
+                d = jour;
+            else if (d == jour)
+                d += 1;
+            rec.cle_rv = cle_rendez_vous(d, 9, 0, 10, 0);
+            rec.texte_rv = QStringLiteral("Coupe et brushing");
+            rec.couleur_rv = 0xC0FFC0;
+        }
+        rec.range(std::span(tout.data() + std::size_t(r - 1) * RecRv::longueur, RecRv::longueur));
+    }
+    if (::pwrite(::open("tf_r0000.wdo", O_WRONLY), tout.data(), tout.size(), 0) != ssize_t(tout.size()))
+        std::abort();
+}
+
+void BM_lecture_sequentielle(benchmark::State& state) {
+    std::vector<char> bloc(1 << 17);
+    for (auto _ : state) {
+        const int fd = ::open("tf_r0000.wdo", O_RDONLY);
+        std::size_t total = 0;
+        for (ssize_t n; (n = ::read(fd, bloc.data(), bloc.size())) > 0;)
+            total += std::size_t(n);
+        ::close(fd);
+        benchmark::DoNotOptimize(total);
+    }
+    state.SetBytesProcessed(state.iterations() * std::int64_t(records) * RecRv::longueur);
+}
+BENCHMARK(BM_lecture_sequentielle)->Unit(benchmark::kMicrosecond);
+
+void BM_charge_journee(benchmark::State& state) {
+    ouvre_rv();
+    etat.date_courante = jour;
+    for (auto _ : state) {
+        charge_journee();
+        if (etat.nb_jour() != du_jour)
+            state.SkipWithError("wrong day count");
+    }
+    state.SetBytesProcessed(state.iterations() * std::int64_t(records) * RecRv::longueur);
+}
+BENCHMARK(BM_charge_journee)->Unit(benchmark::kMicrosecond);
+
+// Keeps each benchmark's time per iteration, for the ratio.
+class Rapport : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& r : runs)
+            if (r.run_type == Run::RT_Iteration)
+                temps[r.benchmark_name()] = r.GetAdjustedRealTime();
+        ConsoleReporter::ReportRuns(runs);
+    }
+    std::map<std::string, double> temps;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    QTemporaryDir dossier;
+    QDir::setCurrent(dossier.path());
+    genere();
+    benchmark::Initialize(&argc, argv);
+    Rapport rapport;
+    benchmark::RunSpecifiedBenchmarks(&rapport);
+    ferme_tous_les_canaux();
+    const double scan = rapport.temps["BM_charge_journee"];
+    const double lecture = rapport.temps["BM_lecture_sequentielle"];
+    if (scan > 0 && lecture > 0)
+        std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : %.2f\n",
+                    records, du_jour, scan / lecture);
+    benchmark::Shutdown();
+    return 0;
+}

@@ -5,6 +5,7 @@
 #include "data/erreur.h"
 #include "ui/echelle.h"
 #include "ui/systeme.h"
+#include "ui/vues.h"
 #include "ui/widgets.h"
 
 #include <QApplication>
@@ -18,6 +19,8 @@ int main(int argc, char** argv) {
     agenda::ui::fixe_message_fatal([](const QString& message) {
         QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
     });
+
+    agenda::enregistre_vues();
 
     agenda::Torva1 livre;
     agenda::Torva1Vue vue(livre);

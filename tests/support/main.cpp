@@ -1,12 +1,12 @@
-// Tests run with a GUI application on the offscreen platform: fonts and text measures are
+// Tests run with a widget application on the offscreen platform: fonts and text measures are
 // real, no display is needed.
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -16,9 +16,11 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Agenda"));
     agenda::ui::echelle_pour_ecran(QGuiApplication::primaryScreen());
-    agenda::ui::fixe_message_fatal([](const QString& message) {
-        QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
-    });
+    // Where a screen can show it: on the offscreen platform nobody could close the window.
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        agenda::ui::fixe_message_fatal([](const QString& message) {
+            QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
+        });
 
     agenda::enregistre_vues();
 

@@ -9,14 +9,14 @@
 #include "data/rendez_vous.h"
 #include "ui/dates.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <fcntl.h>
 #include <map>
+#include <QCoreApplication>
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
 #include <unistd.h>
 #include <vector>
 
@@ -59,7 +59,8 @@ void genere() {
         }
         rec.range(std::span(tout.data() + std::size_t(r - 1) * RecRv::longueur, RecRv::longueur));
     }
-    if (::pwrite(::open("tf_r0000.wdo", O_WRONLY), tout.data(), tout.size(), 0) != ssize_t(tout.size()))
+    if (::pwrite(::open("tf_r0000.wdo", O_WRONLY), tout.data(), tout.size(), 0) !=
+        ssize_t(tout.size()))
         std::abort();
 }
 
@@ -82,8 +83,7 @@ void BM_charge_journee(benchmark::State& state) {
     etat.date_courante = jour;
     for (auto _ : state) {
         charge_journee();
-        if (etat.nb_jour() != du_jour)
-            state.SkipWithError("wrong day count");
+        if (etat.nb_jour() != du_jour) state.SkipWithError("wrong day count");
     }
     state.SetBytesProcessed(state.iterations() * std::int64_t(records) * RecRv::longueur);
 }

@@ -16,11 +16,11 @@
 #include "editor/inter.h"
 #include "ui/dates.h"
 
+#include <cstdio>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
-#include <cstdio>
 
 using namespace agenda;
 
@@ -32,10 +32,9 @@ struct Service {
 };
 
 const Service services[] = {
-    {"Coupe femme", 45},       {"Coupe homme", 30},     {"Brushing", 30},
-    {"Couleur", 90},           {"Mèches", 120},         {"Permanente", 100},
-    {"Soin du visage", 60},    {"Épilation jambes", 45}, {"Manucure", 40},
-    {"Beauté des pieds", 50},  {"Maquillage", 30},      {"Coupe enfant", 20},
+    {"Coupe femme", 45}, {"Coupe homme", 30},      {"Brushing", 30},       {"Couleur", 90},
+    {"Mèches", 120},     {"Permanente", 100},      {"Soin du visage", 60}, {"Épilation jambes", 45},
+    {"Manucure", 40},    {"Beauté des pieds", 50}, {"Maquillage", 30},     {"Coupe enfant", 20},
 };
 
 const char* const collaborateurs[] = {"01 : Sophie Martin", "02 : Julien Bernard",

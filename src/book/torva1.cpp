@@ -78,7 +78,10 @@ Torva1::Torva1() {
 }
 
 void Torva1::charge() {
-    etat.banniere_chargee = true; // the banner window comes with the planning
+    if (!etat.banniere_chargee) {
+        emit charge_banniere();
+        etat.banniere_chargee = true;
+    }
     etat.mode_salle = false;
     lit_clavier_ecran();
     lit_param();
@@ -94,8 +97,7 @@ void Torva1::charge() {
         charge_collaborateurs();
     }
     Timer3.start(1500);
-    if (etat.date_courante == 0)
-        etat.date_courante = ui::date_maintenant();
+    if (etat.date_courante == 0) etat.date_courante = ui::date_maintenant();
     calend = etat.date_courante;
     sel_click_g(0);
     sel_onglet(0);
@@ -142,17 +144,19 @@ void Torva1::appel_menu() {
 }
 
 void Torva1::Form_KeyPress(int code) {
-    if (code == 27)
-        appel_menu();
+    if (code == 27) appel_menu();
 }
 
-void Torva1::sel_click_g(int n) { applique_motif(motifs_g.at(n), ongletg_visible, ongletd_visible); }
+void Torva1::sel_click_g(int n) {
+    applique_motif(motifs_g.at(n), ongletg_visible, ongletd_visible);
+}
 
-void Torva1::sel_click_d(int n) { applique_motif(motifs_d.at(n), ongletg_visible, ongletd_visible); }
+void Torva1::sel_click_d(int n) {
+    applique_motif(motifs_d.at(n), ongletg_visible, ongletd_visible);
+}
 
 void Torva1::sel_onglet(int n) {
-    if (n == 5 || n == 11)
-        appel_menu();
+    if (n == 5 || n == 11) appel_menu();
     vue_visible = n >= 0 && n < nb_vues ? n : -1;
     emit modifie();
     ui::cede();

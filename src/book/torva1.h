@@ -5,12 +5,12 @@
 #include "data/etat.h"
 #include "ui/surface.h"
 
-#include <QObject>
-#include <QString>
-#include <QTimer>
 #include <array>
 #include <cstdint>
 #include <map>
+#include <QObject>
+#include <QString>
+#include <QTimer>
 #include <vector>
 
 namespace agenda {
@@ -85,6 +85,8 @@ signals:
     void modifie();
     // Timer3: the window comes to the front.
     void au_premier_plan();
+    // The banner sepaffic is loaded, hidden, once for the life of the program.
+    void charge_banniere();
 
 private:
     void place_etiquette(int i, const QString& entree);

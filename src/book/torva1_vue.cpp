@@ -23,7 +23,9 @@ ui::RectTwips onglet(bool gauche, int i) {
     return {gauche ? 0 : 14700, 500 + i * 1550, gauche ? 600 : 660, 1450};
 }
 
-QString teinte(std::int32_t bbggrr) { return ui::couleur(bbggrr).name(); }
+QString teinte(std::int32_t bbggrr) {
+    return ui::couleur(bbggrr).name();
+}
 
 } // namespace
 
@@ -88,12 +90,29 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     };
     picture2_ = fleche(pageg_, {800, 10300, 600, 500}, true);
     picture3_ = fleche(paged_, {5600, 10300, 600, 500}, false);
-    connect(picture2_, &QToolButton::clicked, this, [this] { protege([&] { l_.Picture2_Click(); }); });
-    connect(picture3_, &QToolButton::clicked, this, [this] { protege([&] { l_.Picture3_Click(); }); });
+    connect(picture2_, &QToolButton::clicked, this,
+            [this] { protege([&] { l_.Picture2_Click(); }); });
+    connect(picture3_, &QToolButton::clicked, this,
+            [this] { protege([&] { l_.Picture3_Click(); }); });
 
     vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
 
     connect(&l_, &Torva1::modifie, this, &Torva1Vue::synchronise);
+    connect(&l_, &Torva1::charge_banniere, this, [this] {
+        sepaffic_ = std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint);
+        sepaffic_->setObjectName(QStringLiteral("sepaffic"));
+        sepaffic_->setFixedSize(ui::px(7200), ui::px(1800));
+        auto* image = new QLabel(sepaffic_.get());
+        image->setGeometry(sepaffic_->rect());
+        image->setPixmap(ui::icc::couverture(sepaffic_->size()));
+        auto* titre =
+            new QLabel(QStringLiteral("Agenda — le carnet de rendez-vous"), sepaffic_.get());
+        titre->setGeometry(sepaffic_->rect());
+        titre->setAlignment(Qt::AlignCenter);
+        titre->setFont(ui::police(QStringLiteral("DejaVu Serif"), 20, true));
+        titre->setStyleSheet(QStringLiteral("color: #c9a44c; background: transparent;"));
+        ui::centre_fenetre_haut(*sepaffic_);
+    });
     connect(&l_, &Torva1::au_premier_plan, this, [this] {
         raise();
         activateWindow();
@@ -132,9 +151,8 @@ void Torva1Vue::synchronise() {
     label3_->setText(l_.Label3);
     label4_->setText(l_.Label4);
     label7_->setText(l_.Label7);
-    setWindowTitle(l_.Label7 == QLatin1String("Agenda")
-                       ? QStringLiteral("Agenda")
-                       : QStringLiteral("Agenda — ") + l_.Label7);
+    setWindowTitle(l_.Label7 == QLatin1String("Agenda") ? QStringLiteral("Agenda")
+                                                        : QStringLiteral("Agenda — ") + l_.Label7);
     {
         const QSignalBlocker bloque(calend_);
         calend_->setSelectedDate(ui::jour_de(l_.calend));
@@ -143,8 +161,7 @@ void Torva1Vue::synchronise() {
     for (QLabel* e : etiquettes_)
         delete e;
     etiquettes_.clear();
-    if (!jour)
-        return;
+    if (!jour) return;
     for (const bool gauche : {true, false}) {
         for (const auto& [i, et] : gauche ? l_.lrv : l_.lrvd) {
             auto* e = new QLabel(gauche ? static_cast<QWidget*>(pageg_) : paged_);
@@ -155,9 +172,9 @@ void Torva1Vue::synchronise() {
             e->setFont(ui::police(QStringLiteral("Arial"), 8));
             e->setStyleSheet(QStringLiteral("QLabel { background: %1; color: black; padding: 1px; "
                                             "border: %2; }")
-                                 .arg(teinte(et.couleur),
-                                      et.bordure ? QStringLiteral("1px solid black")
-                                                 : QStringLiteral("none")));
+                                 .arg(teinte(et.couleur), et.bordure
+                                                              ? QStringLiteral("1px solid black")
+                                                              : QStringLiteral("none")));
             e->show();
             etiquettes_.push_back(e);
         }

@@ -4,8 +4,9 @@
 #include "book/torva1.h"
 #include "ui/geometrie.h"
 
-#include <QWidget>
 #include <array>
+#include <memory>
+#include <QWidget>
 #include <vector>
 
 class QCalendarWidget;
@@ -34,14 +35,15 @@ private:
                   Qt::Alignment a);
 
     Torva1& l_;
+    std::unique_ptr<QWidget> sepaffic_; // the banner: loaded, never shown
     ui::VueSurface* pageg_;
     ui::VueSurface* paged_;
     std::array<QPushButton*, Torva1::nb_onglets> ongletg_{}, ongletd_{};
     QLabel *label1_, *label2_, *label3_, *label4_, *label7_;
     QCalendarWidget* calend_;
     QToolButton *picture2_, *picture3_;
-    std::vector<QWidget*> vue_jour_;     // what only the day view shows
-    std::vector<QLabel*> etiquettes_;    // lrv and lrvd
+    std::vector<QWidget*> vue_jour_;  // what only the day view shows
+    std::vector<QLabel*> etiquettes_; // lrv and lrvd
 };
 
 } // namespace agenda

@@ -32,6 +32,8 @@ void jours_feries() {
     etat.liste_feries = liste;
 }
 
-bool est_ferie(Date jour) { return etat.liste_feries.contains(ui::format_date(jour, u"ddmm")); }
+bool est_ferie(Date jour) {
+    return etat.liste_feries.contains(ui::format_date(jour, u"ddmm"));
+}
 
 } // namespace agenda

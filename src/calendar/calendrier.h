@@ -4,8 +4,8 @@
 
 #include "data/etat.h"
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 

@@ -56,7 +56,9 @@ void lit_clavier_ecran() {
     etat.clavier_ecran = static_cast<std::int16_t>(val(r.texte));
 }
 
-void lit_nb_services() { etat.nb_services = lit_record<RecArr>(canal::arr, 1).nb_arr; }
+void lit_nb_services() {
+    etat.nb_services = lit_record<RecArr>(canal::arr, 1).nb_arr;
+}
 
 void charge_collaborateurs() {
     etat.nb_collab = 0;
@@ -69,15 +71,11 @@ void charge_collaborateurs() {
                                .arg(nom_lien_agenda, QDir::currentPath()));
     QByteArray contenu = f.readAll();
     f.close();
-    if (contenu.endsWith('\n'))
-        contenu.chop(1);
-    if (contenu.endsWith('\r'))
-        contenu.chop(1);
-    if (contenu.isEmpty())
-        return;
+    if (contenu.endsWith('\n')) contenu.chop(1);
+    if (contenu.endsWith('\r')) contenu.chop(1);
+    if (contenu.isEmpty()) return;
     for (QByteArray ligne : contenu.split('\n')) {
-        if (ligne.endsWith('\r'))
-            ligne.chop(1);
+        if (ligne.endsWith('\r')) ligne.chop(1);
         if (etat.nb_collab == 20)
             throw ErreurFatale(QStringLiteral("%1 : plus de 20 collaborateurs, la ligne 21 ne "
                                               "peut pas être lue.")

@@ -2,13 +2,13 @@
 // The data folder: the files the book keeps open, the collaborators, the touch-screen flag and
 // the catalogue's header. Names are relative to the working folder.
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 
-QString nom_fichier_rv(std::int16_t collab, bool salle);  // tf_r0007.wdo, or tf_z in room mode
-QString nom_fichier_notes(std::int16_t collab);           // tf_a0007.wdo
+QString nom_fichier_rv(std::int16_t collab, bool salle); // tf_r0007.wdo, or tf_z in room mode
+QString nom_fichier_notes(std::int16_t collab);          // tf_a0007.wdo
 
 // The book's appointment file of num_collab on channel 15; stays open.
 void ouvre_rv();

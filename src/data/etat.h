@@ -4,17 +4,17 @@
 
 #include "ui/dates.h"
 
-#include <QString>
-#include <QStringList>
 #include <array>
 #include <cstdint>
+#include <QString>
+#include <QStringList>
 
 namespace agenda {
 
 using ui::Date;
 
 struct Etat {
-    Date date_courante = 0;     // the date on show; 0 until the first load
+    Date date_courante = 0;      // the date on show; 0 until the first load
     std::int16_t num_collab = 0; // the NNNN of the tf_ files; 0 is the general book
     std::int32_t num_rv = 0;     // the appointment in work; 0 is a new one
     std::int16_t page_base = 0;

@@ -2,11 +2,11 @@
 
 #include "data/erreur.h"
 
-#include <QFile>
 #include <array>
-#include <cstring>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
+#include <QFile>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,23 +25,20 @@ void FichierRecords::ouvre(const QString& chemin, int longueur_record) {
     ferme();
     const QByteArray nom = QFile::encodeName(chemin);
     const int fd = ::open(nom.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (fd < 0)
-        echec(QStringLiteral("ouverture"), chemin);
+    if (fd < 0) echec(QStringLiteral("ouverture"), chemin);
     fd_ = fd;
     longueur_ = longueur_record;
     chemin_ = chemin;
 }
 
 void FichierRecords::ferme() {
-    if (fd_ >= 0)
-        ::close(fd_);
+    if (fd_ >= 0) ::close(fd_);
     fd_ = -1;
 }
 
 std::int64_t FichierRecords::taille() const {
     struct stat st {};
-    if (::fstat(fd_, &st) != 0)
-        echec(QStringLiteral("taille"), chemin_);
+    if (::fstat(fd_, &st) != 0) echec(QStringLiteral("taille"), chemin_);
     return st.st_size;
 }
 
@@ -50,12 +47,9 @@ std::size_t FichierRecords::lit_bloc(std::int64_t r, octets::Tampon buf) const {
     while (lu < buf.size()) {
         const ssize_t n = ::pread(fd_, buf.data() + lu, buf.size() - lu,
                                   static_cast<off_t>(position(r) + std::int64_t(lu)));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            echec(QStringLiteral("lecture"), chemin_);
-        if (n == 0)
-            break;
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) echec(QStringLiteral("lecture"), chemin_);
+        if (n == 0) break;
         lu += static_cast<std::size_t>(n);
     }
     return lu;
@@ -68,8 +62,7 @@ void FichierRecords::lit(std::int64_t r, octets::Tampon buf) const {
 
 void FichierRecords::ecrit(std::int64_t r, octets::TamponLu buf) {
     const ssize_t n = ::pwrite(fd_, buf.data(), buf.size(), static_cast<off_t>(position(r)));
-    if (n != static_cast<ssize_t>(buf.size()))
-        echec(QStringLiteral("écriture"), chemin_);
+    if (n != static_cast<ssize_t>(buf.size())) echec(QStringLiteral("écriture"), chemin_);
 }
 
 namespace {
@@ -79,12 +72,13 @@ std::array<FichierRecords, canal::maximum + 1>& canaux() {
 }
 } // namespace
 
-FichierRecords& canal_fichier(int numero) { return canaux().at(static_cast<std::size_t>(numero)); }
+FichierRecords& canal_fichier(int numero) {
+    return canaux().at(static_cast<std::size_t>(numero));
+}
 
 int canal_libre() {
     for (int i = 1; i <= canal::maximum; ++i)
-        if (!canaux()[i].ouvert())
-            return i;
+        if (!canaux()[i].ouvert()) return i;
     throw ErreurFatale(QStringLiteral("Trop de fichiers ouverts."));
 }
 

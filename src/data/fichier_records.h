@@ -6,8 +6,8 @@
 
 #include "data/octets.h"
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 

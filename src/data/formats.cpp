@@ -93,8 +93,12 @@ void RecArr::range(Tampon b) const {
     std::copy(zone_214.begin(), zone_214.end(), b.begin() + 214);
 }
 
-RecTxt20 RecTxt20::charge(TamponLu b) { return {octets::texte(b, 0, longueur)}; }
+RecTxt20 RecTxt20::charge(TamponLu b) {
+    return {octets::texte(b, 0, longueur)};
+}
 
-void RecTxt20::range(Tampon b) const { pose_texte(b, 0, longueur, this->texte); }
+void RecTxt20::range(Tampon b) const {
+    pose_texte(b, 0, longueur, this->texte);
+}
 
 } // namespace agenda

@@ -4,9 +4,9 @@
 
 #include "data/octets.h"
 
-#include <QString>
 #include <array>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 

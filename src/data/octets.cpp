@@ -43,15 +43,13 @@ void pose_i16(Tampon buf, int offset, std::int16_t valeur) {
 }
 
 QChar car_cp1252(std::uint8_t octet) {
-    if (octet >= 0x80 && octet <= 0x9F)
-        return QChar(table_80_9f[octet - 0x80]);
+    if (octet >= 0x80 && octet <= 0x9F) return QChar(table_80_9f[octet - 0x80]);
     return QChar(char16_t(octet));
 }
 
 std::uint8_t octet_cp1252(QChar c) {
     const char16_t u = c.unicode();
-    if (u < 0x80 || (u >= 0xA0 && u <= 0xFF))
-        return static_cast<std::uint8_t>(u);
+    if (u < 0x80 || (u >= 0xA0 && u <= 0xFF)) return static_cast<std::uint8_t>(u);
     const auto it = std::find(table_80_9f.begin(), table_80_9f.end(), u);
     if (it != table_80_9f.end())
         return static_cast<std::uint8_t>(0x80 + (it - table_80_9f.begin()));

@@ -2,8 +2,8 @@
 // The two encodings of the shared record files: little-endian integers and blank-padded
 // CP1252 text fields. Every record format loads and stores its fields through these.
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 #include <span>
 
 namespace agenda::octets {

@@ -11,7 +11,9 @@ namespace agenda {
 
 namespace {
 
-FichierRecords& store() { return canal_fichier(canal::param); }
+FichierRecords& store() {
+    return canal_fichier(canal::param);
+}
 
 void ferme_param() {
     store().ferme();
@@ -23,8 +25,7 @@ int cherche(const QString& cle, RecParam& trouve) {
     const std::int32_t n = lit_record<RecParam>(store(), 1).nb_param;
     for (std::int32_t i = 1; i <= n; ++i) {
         trouve = lit_record<RecParam>(store(), i + 1);
-        if (trouve.cle_param == cle)
-            return i;
+        if (trouve.cle_param == cle) return i;
     }
     return 0;
 }

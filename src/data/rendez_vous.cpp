@@ -8,11 +8,11 @@
 #include "ui/dates.h"
 #include "ui/systeme.h"
 
-#include <QByteArray>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <QByteArray>
 #include <vector>
 
 namespace agenda {
@@ -35,10 +35,9 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
             f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * RecRv::longueur));
         const std::int64_t complets = std::int64_t(lu) / RecRv::longueur;
         for (std::int64_t j = 0; j < complets; ++j) {
-            const auto rec = std::span<const std::uint8_t>(bloc.data() + j * RecRv::longueur,
-                                                           RecRv::longueur);
-            if (!visite(static_cast<std::int32_t>(premier + j), rec))
-                return;
+            const auto rec =
+                std::span<const std::uint8_t>(bloc.data() + j * RecRv::longueur, RecRv::longueur);
+            if (!visite(static_cast<std::int32_t>(premier + j), rec)) return;
         }
         if (complets < n) {
             // A last record cut short: read it on its own, so that its missing bytes are blank.
@@ -57,9 +56,9 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
 QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     constexpr int debut_cle = 19;
     char suite[48];
-    const int n = std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
-                                octets::i32(rec, RecRv::off_encadre),
-                                octets::i32(rec, RecRv::off_couleur));
+    const int n =
+        std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
+                      octets::i32(rec, RecRv::off_encadre), octets::i32(rec, RecRv::off_couleur));
     QString e(debut_cle + n, Qt::Uninitialized);
     for (int k = 0; k < debut_cle; ++k)
         e[k] = octets::car_cp1252(rec[std::size_t(RecRv::off_cle + k)]);
@@ -105,7 +104,9 @@ std::int32_t repare_entete(FichierRecords& f) {
     return entete.dernier_num;
 }
 
-QString motif_jour(Date d) { return ui::format_date(d, u"yymmdd"); }
+QString motif_jour(Date d) {
+    return ui::format_date(d, u"yymmdd");
+}
 
 QString cle_rendez_vous(Date jour, int heure, int minute, int heure_fin, int minute_fin) {
     return motif_jour(jour) + QLatin1Char(':') + motif_zeros(heure, 2) + QLatin1Char('H') +
@@ -124,14 +125,15 @@ QStringList scan_journee(FichierRecords& f, Date jour) {
     const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
     parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        if (motif.ouvre(rec))
-            liste.append(entree_du_jour(i, rec));
+        if (motif.ouvre(rec)) liste.append(entree_du_jour(i, rec));
         return true;
     });
     return liste;
 }
 
-void charge_journee() { etat.liste_jour = scan_journee(canal_fichier(canal::rv), etat.date_courante); }
+void charge_journee() {
+    etat.liste_jour = scan_journee(canal_fichier(canal::rv), etat.date_courante);
+}
 
 std::int32_t cherche_note(const QString& cle) {
     auto& f = canal_fichier(canal::notes);
@@ -139,8 +141,7 @@ std::int32_t cherche_note(const QString& cle) {
     const DebutCle<9> motif(cle);
     std::int32_t trouve = 0;
     parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        if (!motif.ouvre(rec))
-            return true;
+        if (!motif.ouvre(rec)) return true;
         trouve = i;
         return false;
     });

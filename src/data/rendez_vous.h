@@ -4,8 +4,8 @@
 
 #include "data/etat.h"
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 
@@ -38,10 +38,16 @@ std::int32_t cherche_note(const QString& cle);
 
 // Where the fields stand in an entry of liste_jour.
 namespace entree_jour {
-inline QString heure_debut(const QString& e) { return e.mid(7, 5); } // characters 8 to 12
-inline QString heure_fin(const QString& e) { return e.mid(13, 5); }   // characters 14 to 18
-std::int32_t numero(const QString& e);                                 // characters 20 to 25
-inline bool encadre(const QString& e) { return e.mid(26, 1) == QLatin1String("1"); }
+inline QString heure_debut(const QString& e) {
+    return e.mid(7, 5);
+} // characters 8 to 12
+inline QString heure_fin(const QString& e) {
+    return e.mid(13, 5);
+} // characters 14 to 18
+std::int32_t numero(const QString& e); // characters 20 to 25
+inline bool encadre(const QString& e) {
+    return e.mid(26, 1) == QLatin1String("1");
+}
 } // namespace entree_jour
 
 } // namespace agenda

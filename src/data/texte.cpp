@@ -32,8 +32,7 @@ QString motif_zeros(double valeur, int chiffres) {
 }
 
 QString initiale_majuscule(const QString& s) {
-    if (s.isEmpty())
-        return s;
+    if (s.isEmpty()) return s;
     return s.left(1).toUpper() + s.mid(1);
 }
 

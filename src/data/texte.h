@@ -14,7 +14,9 @@ double val(QStringView s);
 inline QString mid1(const QString& s, int debut, int longueur) {
     return s.mid(debut - 1, longueur);
 }
-inline QString mid1(const QString& s, int debut) { return s.mid(debut - 1); }
+inline QString mid1(const QString& s, int debut) {
+    return s.mid(debut - 1);
+}
 
 // A number in the pattern "0", "00", "0000"...: rounded half away from zero, padded with
 // leading zeros to the width, never cut.

@@ -39,22 +39,34 @@ const QString marque_init = QStringLiteral("#INIT#");
 int canal_inter = 0;
 std::int32_t compte_inter = 0;
 
-FichierRecords& intlog() { return canal_fichier(canal_inter); }
+FichierRecords& intlog() {
+    return canal_fichier(canal_inter);
+}
 
 void ferme_inter() {
     intlog().ferme();
     canal_inter = 0;
 }
 
-QString cle_recherche(const QString& cle) { return cadre(cle.trimmed(), RecInter::lg_cle).toUpper(); }
+QString cle_recherche(const QString& cle) {
+    return cadre(cle.trimmed(), RecInter::lg_cle).toUpper();
+}
 
-bool porte_marque(const RecInter& r) { return r.cle_inter.startsWith(marque_init); }
+bool porte_marque(const RecInter& r) {
+    return r.cle_inter.startsWith(marque_init);
+}
 
 const std::array<QString, 10> lignes_fiche = {
-    QStringLiteral("Merci de noter"),    QStringLiteral("votre prochain"),
-    QStringLiteral("rendez-vous"),       QStringLiteral("merci de prévenir"),
-    QStringLiteral("en cas d'impossibilité"), QStringLiteral("de votre part"),
-    QString(), QString(), QString(), QString(),
+    QStringLiteral("Merci de noter"),
+    QStringLiteral("votre prochain"),
+    QStringLiteral("rendez-vous"),
+    QStringLiteral("merci de prévenir"),
+    QStringLiteral("en cas d'impossibilité"),
+    QStringLiteral("de votre part"),
+    QString(),
+    QString(),
+    QString(),
+    QString(),
 };
 
 } // namespace
@@ -84,8 +96,7 @@ std::int32_t ajoute_inter() {
 
 std::int32_t cherche_inter(const QString& cle) {
     for (std::int32_t i = 1; i <= compte_inter; ++i)
-        if (lit_record<RecInter>(intlog(), i + 1).cle_inter == cle)
-            return i;
+        if (lit_record<RecInter>(intlog(), i + 1).cle_inter == cle) return i;
     return -1;
 }
 
@@ -101,8 +112,7 @@ void ecrit_inter(const QString& cle, const QString& valeur) {
     ouvre_inter();
     const QString recherche = cle_recherche(cle);
     std::int32_t n = cherche_inter(recherche);
-    if (n < 0)
-        n = ajoute_inter();
+    if (n < 0) n = ajoute_inter();
     RecInter r = lit_record<RecInter>(intlog(), n + 1);
     r.cle_inter = recherche;
     r.valeur_inter = valeur;
@@ -115,8 +125,7 @@ RecInter ouvre_rvv_181() {
     f.ferme();
     f.ouvre(etat.prefixe_dossier + QStringLiteral("wrv181ff.wdo"), RecInter::longueur);
     RecInter r = lit_record<RecInter>(f, 1);
-    if (porte_marque(r))
-        return r;
+    if (porte_marque(r)) return r;
     r.cle_inter = marque_init + ui::format_date(ui::date_maintenant(), u"dd/mm/yyyy");
     r.zone_64 = r.zone_15 = r.valeur_inter = r.zone_63 = QString();
     ecrit_record(f, 1, r);

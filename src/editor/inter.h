@@ -4,8 +4,8 @@
 
 #include "data/octets.h"
 
-#include <QString>
 #include <cstdint>
+#include <QString>
 
 namespace agenda {
 
@@ -49,7 +49,6 @@ void ecrit_inter(const QString& cle, const QString& valeur);
 // buffer as the opening left it.
 RecInter ouvre_rvv_181();
 // The two variable lines of the slip: the date in words, and "à : HH H MM".
-void ecrit_rendez_vous(const QString& date_en_lettres, const QString& heure,
-                       const QString& minute);
+void ecrit_rendez_vous(const QString& date_en_lettres, const QString& heure, const QString& minute);
 
 } // namespace agenda

@@ -22,8 +22,7 @@ void Mini97::Form_Load() {
 void Mini97::Text1_Change(const QString& texte) {
     Text1 = texte;
     for (QChar& c : Text1)
-        if (c.unicode() < 32 && c.unicode() != 8)
-            c = QLatin1Char(' ');
+        if (c.unicode() < 32 && c.unicode() != 8) c = QLatin1Char(' ');
 }
 
 void Mini97::btc_Click(int index) {

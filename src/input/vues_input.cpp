@@ -79,8 +79,7 @@ void montre_mini_97(ui::FenetreModale& f) {
     l.sur_fermeture = [&d] { d.accept(); };
     ui::centre_fenetre(d);
     ui::pose_cadre_fin(d);
-    if (l.Text1_visible)
-        texte->setFocus();
+    if (l.Text1_visible) texte->setFocus();
     d.exec();
     l.sur_fermeture = nullptr;
 }

@@ -12,26 +12,38 @@ const QDate origine(1899, 12, 30);
 
 const std::array<const char*, 7> jours = {"dimanche", "lundi",    "mardi", "mercredi",
                                           "jeudi",    "vendredi", "samedi"};
-const std::array<const char*, 12> mois = {"janvier", "février", "mars",      "avril",
-                                          "mai",     "juin",    "juillet",   "août",
+const std::array<const char*, 12> mois = {"janvier",   "février", "mars",     "avril",
+                                          "mai",       "juin",    "juillet",  "août",
                                           "septembre", "octobre", "novembre", "décembre"};
 } // namespace
 
-Date date_de(QDate jour) { return static_cast<Date>(origine.daysTo(jour)); }
+Date date_de(QDate jour) {
+    return static_cast<Date>(origine.daysTo(jour));
+}
 
 Date date_de(const QDateTime& instant) {
     return date_de(instant.date()) + instant.time().msecsSinceStartOfDay() / 86'400'000.0;
 }
 
-QDate jour_de(Date d) { return origine.addDays(static_cast<qint64>(std::floor(d))); }
+QDate jour_de(Date d) {
+    return origine.addDays(static_cast<qint64>(std::floor(d)));
+}
 
-Date date_maintenant() { return date_de(maintenant()); }
+Date date_maintenant() {
+    return date_de(maintenant());
+}
 
-int jour_semaine(Date d) { return jour_de(d).dayOfWeek() % 7 + 1; }
+int jour_semaine(Date d) {
+    return jour_de(d).dayOfWeek() % 7 + 1;
+}
 
-QString nom_jour(int js) { return QString::fromUtf8(jours.at(static_cast<std::size_t>(js - 1))); }
+QString nom_jour(int js) {
+    return QString::fromUtf8(jours.at(static_cast<std::size_t>(js - 1)));
+}
 
-QString nom_mois(int m) { return QString::fromUtf8(mois.at(static_cast<std::size_t>(m - 1))); }
+QString nom_mois(int m) {
+    return QString::fromUtf8(mois.at(static_cast<std::size_t>(m - 1)));
+}
 
 QString format_date(Date d, QStringView motif) {
     const QDate j = jour_de(d);
@@ -43,9 +55,13 @@ QString format_date(Date d, QStringView motif) {
         while (i + n < motif.size() && motif[i + n] == c)
             ++n;
         if (c == QLatin1Char('d')) {
-            r += n >= 4 ? nom_jour(jour_semaine(d)) : n == 2 ? deux(j.day()) : QString::number(j.day());
+            r += n >= 4   ? nom_jour(jour_semaine(d))
+                 : n == 2 ? deux(j.day())
+                          : QString::number(j.day());
         } else if (c == QLatin1Char('m')) {
-            r += n >= 4 ? nom_mois(j.month()) : n == 2 ? deux(j.month()) : QString::number(j.month());
+            r += n >= 4   ? nom_mois(j.month())
+                 : n == 2 ? deux(j.month())
+                          : QString::number(j.month());
         } else if (c == QLatin1Char('y')) {
             r += n >= 4 ? QString::number(j.year()) : deux(j.year() % 100);
         } else {

@@ -2,10 +2,10 @@
 
 #include "ui/surface.h"
 
-#include <QScreen>
-#include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <QScreen>
+#include <QWidget>
 
 namespace agenda::ui {
 
@@ -13,13 +13,16 @@ namespace {
 double facteur = 1.0 / 15; // 15 twips a pixel at 96 dpi
 } // namespace
 
-double px_par_twip() { return facteur; }
+double px_par_twip() {
+    return facteur;
+}
 
-void fixe_echelle(double f) { facteur = f; }
+void fixe_echelle(double f) {
+    facteur = f;
+}
 
 void echelle_pour_ecran(const QScreen* ecran) {
-    if (!ecran)
-        return;
+    if (!ecran) return;
     const QRect libre = ecran->availableGeometry();
     // Room for the window's title bar.
     const double f = std::min(double(libre.width()) / largeur_livre,
@@ -27,16 +30,22 @@ void echelle_pour_ecran(const QScreen* ecran) {
     fixe_echelle(std::clamp(f, 1.0 / 30, 2.0 / 15));
 }
 
-int px(double t) { return int(std::lround(t * facteur)); }
+int px(double t) {
+    return int(std::lround(t * facteur));
+}
 
-int twips(int p) { return int(std::lround(p / facteur)); }
+int twips(int p) {
+    return int(std::lround(p / facteur));
+}
 
 QRect px(const RectTwips& r) {
     const int x = px(r.left), y = px(r.top);
     return {x, y, px(r.left + r.width) - x, px(r.top + r.height) - y};
 }
 
-void place(QWidget& w, const RectTwips& r) { w.setGeometry(px(r)); }
+void place(QWidget& w, const RectTwips& r) {
+    w.setGeometry(px(r));
+}
 
 QFont police(const QString& nom, double points, bool gras) {
     QFont f(nom);

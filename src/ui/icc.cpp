@@ -1,12 +1,12 @@
 #include "ui/icc.h"
 
+#include <array>
 #include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
 #include <QRandomGenerator>
-#include <array>
 
 namespace agenda::ui::icc {
 
@@ -36,13 +36,12 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
     }
 }
 
-const std::array<const char*, 6> titres = {"Jour", "Semaine", "Année",
+const std::array<const char*, 6> titres = {"Jour",     "Semaine",   "Année",
                                            "Planning", "Recherche", "Sortie"};
 
 QPixmap titre_onglet(int i, QSize t, bool gauche) {
     QPixmap p = vierge(t);
-    if (i < 0 || i >= int(titres.size()))
-        return p;
+    if (i < 0 || i >= int(titres.size())) return p;
     QPainter g(&p);
     g.setRenderHint(QPainter::TextAntialiasing);
     QFont f(QStringLiteral("DejaVu Serif"));
@@ -58,8 +57,8 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
     // Written along the edge, reading from the page outwards.
     g.translate(t.width() / 2.0, t.height() / 2.0);
     g.rotate(gauche ? -90 : 90);
-    g.drawText(QRectF(-t.height() / 2.0, -t.width() / 2.0, t.height(), t.width()),
-               Qt::AlignCenter, titre);
+    g.drawText(QRectF(-t.height() / 2.0, -t.width() / 2.0, t.height(), t.width()), Qt::AlignCenter,
+               titre);
     return p;
 }
 
@@ -124,8 +123,12 @@ QPixmap reliure(QSize t) {
     return p;
 }
 
-QPixmap p11g(int i, QSize t) { return titre_onglet(i, t, true); }
-QPixmap p11d(int i, QSize t) { return titre_onglet(i, t, false); }
+QPixmap p11g(int i, QSize t) {
+    return titre_onglet(i, t, true);
+}
+QPixmap p11d(int i, QSize t) {
+    return titre_onglet(i, t, false);
+}
 
 QPixmap fleche(bool vers_la_gauche, QSize t) {
     QPixmap p = vierge(t);

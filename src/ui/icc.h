@@ -7,13 +7,13 @@
 
 namespace agenda::ui::icc {
 
-QPixmap couverture(QSize taille);              // the leather under the open book
-QPixmap page(QSize taille, bool gauche);       // a page, its gutter towards the spine
-QPixmap reliure(QSize taille);                 // Picture1, the spine between the pages
-QPixmap p11g(int i, QSize taille);             // a tab title on the left edge (0 to 5)
-QPixmap p11d(int i, QSize taille);             // the same on the right edge
+QPixmap couverture(QSize taille);        // the leather under the open book
+QPixmap page(QSize taille, bool gauche); // a page, its gutter towards the spine
+QPixmap reliure(QSize taille);           // Picture1, the spine between the pages
+QPixmap p11g(int i, QSize taille);       // a tab title on the left edge (0 to 5)
+QPixmap p11d(int i, QSize taille);       // the same on the right edge
 QPixmap fleche(bool vers_la_gauche, QSize taille);
 QPixmap piece_cadre(int coin, int i, QSize taille); // frame piece i (0-7) of a set
-QPixmap bouton(bool oui, QSize taille);        // the two picture buttons of the small windows
+QPixmap bouton(bool oui, QSize taille);             // the two picture buttons of the small windows
 
 } // namespace agenda::ui::icc

@@ -19,8 +19,7 @@ QHash<QString, Presentation>& scenarios() {
 
 void FenetreModale::ferme() {
     fermee_ = true;
-    if (sur_fermeture)
-        sur_fermeture();
+    if (sur_fermeture) sur_fermeture();
 }
 
 void montre_modal(FenetreModale& f) {
@@ -36,7 +35,9 @@ void montre_modal(FenetreModale& f) {
     throw ErreurFatale(QStringLiteral("La fenêtre %1 n'a pas de présentation.").arg(f.nom()));
 }
 
-void enregistre_vue(const QString& nom, Presentation vue) { vues().insert(nom, std::move(vue)); }
+void enregistre_vue(const QString& nom, Presentation vue) {
+    vues().insert(nom, std::move(vue));
+}
 
 void scenario(const QString& nom, Presentation script) {
     if (script)

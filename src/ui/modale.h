@@ -3,8 +3,8 @@
 // then its widgets until it closes itself. Tests script a window by its name instead, and
 // call the handlers as an operator would press the controls.
 
-#include <QString>
 #include <functional>
+#include <QString>
 
 namespace agenda::ui {
 

@@ -1,10 +1,10 @@
 #include "ui/surface.h"
 
+#include <cmath>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPalette>
-#include <cmath>
 
 namespace agenda::ui {
 
@@ -14,10 +14,14 @@ QColor couleur(std::int32_t bbggrr) {
         // The few system colours the files may hold.
         const QPalette p = QGuiApplication::palette();
         switch (v & 0xFF) {
-        case 5: return p.color(QPalette::Base);         // window background
-        case 8: return p.color(QPalette::Text);         // window text
-        case 15: return p.color(QPalette::Button);      // button face
-        default: return p.color(QPalette::Window);
+        case 5:
+            return p.color(QPalette::Base); // window background
+        case 8:
+            return p.color(QPalette::Text); // window text
+        case 15:
+            return p.color(QPalette::Button); // button face
+        default:
+            return p.color(QPalette::Window);
         }
     }
     return QColor(int(v & 0xFF), int(v >> 8 & 0xFF), int(v >> 16 & 0xFF));

@@ -2,9 +2,9 @@
 // A drawing surface in twips. Drawing records what was drawn; the widget that shows the
 // surface replays it at the screen's scale, and tests read it back in twips.
 
+#include <cstdint>
 #include <QColor>
 #include <QString>
-#include <cstdint>
 #include <vector>
 
 namespace agenda::ui {

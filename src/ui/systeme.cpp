@@ -1,11 +1,11 @@
 #include "ui/systeme.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QGuiApplication>
 #include <QProcess>
-#include <cstdio>
-#include <cstdlib>
 
 namespace agenda::ui {
 
@@ -24,39 +24,40 @@ std::function<bool(const QString&)>& lanceur() {
 }
 } // namespace
 
-QDateTime maintenant() { return horloge() ? horloge()() : QDateTime::currentDateTime(); }
+QDateTime maintenant() {
+    return horloge() ? horloge()() : QDateTime::currentDateTime();
+}
 
 double secondes_depuis_minuit() {
     const QTime t = maintenant().time();
     return t.msecsSinceStartOfDay() / 1000.0;
 }
 
-void fixe_horloge(std::function<QDateTime()> h) { horloge() = std::move(h); }
+void fixe_horloge(std::function<QDateTime()> h) {
+    horloge() = std::move(h);
+}
 
 void cede() {
-    if (QCoreApplication::instance())
-        QCoreApplication::processEvents();
+    if (QCoreApplication::instance()) QCoreApplication::processEvents();
 }
 
 void pose_pointeur(Pointeur p) {
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-        return;
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
     QGuiApplication::restoreOverrideCursor();
-    if (p == Pointeur::sablier)
-        QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    if (p == Pointeur::sablier) QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
 }
 
 bool lance_commande(const QString& ligne) {
-    if (lanceur())
-        return lanceur()(ligne);
+    if (lanceur()) return lanceur()(ligne);
     QStringList mots = QProcess::splitCommand(ligne);
-    if (mots.isEmpty())
-        return false;
+    if (mots.isEmpty()) return false;
     const QString programme = mots.takeFirst();
     return QProcess::startDetached(programme, mots);
 }
 
-void fixe_lanceur(std::function<bool(const QString&)> l) { lanceur() = std::move(l); }
+void fixe_lanceur(std::function<bool(const QString&)> l) {
+    lanceur() = std::move(l);
+}
 
 } // namespace agenda::ui
 
@@ -71,19 +72,21 @@ std::function<void(const QString&)>& montre_message() {
 
 void message_fatal(const QString& message) {
     std::fprintf(stderr, "Agenda : %s\n", message.toLocal8Bit().constData());
-    if (montre_message())
-        montre_message()(message);
+    if (montre_message()) montre_message()(message);
 }
 
-void fixe_message_fatal(std::function<void(const QString&)> m) { montre_message() = std::move(m); }
+void fixe_message_fatal(std::function<void(const QString&)> m) {
+    montre_message() = std::move(m);
+}
 
 void termine(int code) {
-    if (fin())
-        fin()(code);
+    if (fin()) fin()(code);
     std::fflush(nullptr);
     std::exit(code);
 }
 
-void fixe_fin(std::function<void(int)> f) { fin() = std::move(f); }
+void fixe_fin(std::function<void(int)> f) {
+    fin() = std::move(f);
+}
 
 } // namespace agenda::ui

@@ -2,9 +2,9 @@
 // What the program asks of the platform outside windows: the time, yielding to the event loop,
 // the mouse pointer and starting another program. Tests set the clock.
 
+#include <functional>
 #include <QDateTime>
 #include <QString>
-#include <functional>
 
 namespace agenda::ui {
 

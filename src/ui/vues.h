@@ -5,6 +5,8 @@ namespace agenda {
 
 void enregistre_vues_input();
 
-inline void enregistre_vues() { enregistre_vues_input(); }
+inline void enregistre_vues() {
+    enregistre_vues_input();
+}
 
 } // namespace agenda

@@ -4,11 +4,11 @@
 #include "ui/geometrie.h"
 #include "ui/icc.h"
 
+#include <cmath>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
-#include <cmath>
 
 namespace agenda::ui {
 
@@ -29,8 +29,7 @@ void VueSurface::paintEvent(QPaintEvent*) {
         }
         g.drawPixmap(0, 0, fond_cache_);
     }
-    if (!surface_)
-        return;
+    if (!surface_) return;
     g.setRenderHint(QPainter::Antialiasing);
     g.setRenderHint(QPainter::TextAntialiasing);
     g.scale(px_par_twip(), px_par_twip());
@@ -96,7 +95,11 @@ void taille_fenetre(QWidget& w) {
     w.raise();
 }
 
-void pose_cadre_fin(QWidget& fenetre) { pose_cadre(fenetre, coin_fin); }
-void pose_cadre_large(QWidget& fenetre) { pose_cadre(fenetre, coin_large); }
+void pose_cadre_fin(QWidget& fenetre) {
+    pose_cadre(fenetre, coin_fin);
+}
+void pose_cadre_large(QWidget& fenetre) {
+    pose_cadre(fenetre, coin_large);
+}
 
 } // namespace agenda::ui

@@ -4,9 +4,9 @@
 
 #include "ui/surface.h"
 
+#include <functional>
 #include <QPixmap>
 #include <QWidget>
-#include <functional>
 
 namespace agenda::ui {
 

@@ -89,8 +89,7 @@ TEST_F(Pages, RegleDesDeuxPages) {
     EXPECT_DOUBLE_EQ(trente.taille, 8);
     EXPECT_EQ(livre->paged.textes()[0].texte, QStringLiteral("12"));
     EXPECT_EQ(livre->paged.textes().back().texte, QStringLiteral("30"));
-    EXPECT_EQ(livre->paged.textes()[livre->paged.textes().size() - 2].texte,
-              QStringLiteral("18"));
+    EXPECT_EQ(livre->paged.textes()[livre->paged.textes().size() - 2].texte, QStringLiteral("18"));
 }
 
 TEST_F(Pages, PanneauDeLaDate) {
@@ -110,10 +109,11 @@ TEST_F(Pages, LesOngletsSeCouchentCommeDansUnRepertoire) {
         std::vector<int> a_gauche;
     };
     const std::vector<Cas> table = {
-        {true, 0, {0}},          {true, 1, {0}},          {false, 0, {0}},
-        {true, 2, {0, 1}},       {false, 1, {0, 1}},      {true, 3, {0, 1, 2}},
-        {false, 2, {0, 1, 2}},   {true, 4, {0, 1, 2, 3}}, {false, 3, {0, 1, 2, 3}},
-        {false, 4, {0, 1, 2, 3, 4}},
+        {true, 0, {0}},           {true, 1, {0}},
+        {false, 0, {0}},          {true, 2, {0, 1}},
+        {false, 1, {0, 1}},       {true, 3, {0, 1, 2}},
+        {false, 2, {0, 1, 2}},    {true, 4, {0, 1, 2, 3}},
+        {false, 3, {0, 1, 2, 3}}, {false, 4, {0, 1, 2, 3, 4}},
     };
     for (const Cas& c : table) {
         c.gauche ? livre->ongletg_Click(c.onglet) : livre->ongletd_Click(c.onglet);

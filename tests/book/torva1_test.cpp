@@ -48,6 +48,15 @@ TEST_F(Chargement, PremierDemarrageDansUnDossierVide) {
     EXPECT_FALSE(canal_fichier(canal::param).ouvert());
 }
 
+TEST_F(Chargement, LaBanniereEstChargeeUneSeuleFois) {
+    int banniere = 0;
+    QObject::connect(livre.get(), &Torva1::charge_banniere, [&] { ++banniere; });
+    charge();
+    charge();
+    EXPECT_EQ(banniere, 1);
+    EXPECT_TRUE(etat.banniere_chargee);
+}
+
 TEST_F(Chargement, LeCollaborateurDuFichierDeMessages) {
     ecrit_inter(QStringLiteral("TORVA:NUMUSER"), QStringLiteral("0007 Marie Dupont"));
     ecrit_param(QStringLiteral("TORVA:HEURE"), QStringLiteral("08:13:20:045"));

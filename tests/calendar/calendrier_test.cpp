@@ -9,8 +9,14 @@ TEST(Paques, DatesConnues) {
         std::int16_t annee;
         int mois, jour;
     };
-    for (const Cas c : {Cas{2015, 4, 5}, {2016, 3, 27}, {2019, 4, 21}, {2038, 4, 25},
-                        {2008, 3, 23}, {2004, 4, 11}, {2000, 4, 23}, {2285, 3, 22}})
+    for (const Cas c : {Cas{2015, 4, 5},
+                        {2016, 3, 27},
+                        {2019, 4, 21},
+                        {2038, 4, 25},
+                        {2008, 3, 23},
+                        {2004, 4, 11},
+                        {2000, 4, 23},
+                        {2285, 3, 22}})
         EXPECT_EQ(ui::jour_de(date_paques(c.annee)), QDate(c.annee, c.mois, c.jour)) << c.annee;
 }
 
@@ -23,10 +29,15 @@ TEST(JoursFeries, ListeDeLAnneeDeLaDateCourante) {
         int mois, jour;
         bool ferie;
     };
-    for (const Cas c : {Cas{1, 1, true}, {4, 6, true}, {5, 14, true}, {5, 25, true},
-                        {4, 5, false},   // Easter Sunday is not in the list
-                        {5, 24, false},  // nor Whit Sunday
-                        {12, 25, true}, {12, 26, false}, {7, 14, true}})
+    for (const Cas c : {Cas{1, 1, true},
+                        {4, 6, true},
+                        {5, 14, true},
+                        {5, 25, true},
+                        {4, 5, false},  // Easter Sunday is not in the list
+                        {5, 24, false}, // nor Whit Sunday
+                        {12, 25, true},
+                        {12, 26, false},
+                        {7, 14, true}})
         EXPECT_EQ(est_ferie(ui::date_de(QDate(2015, c.mois, c.jour))), c.ferie)
             << c.jour << "/" << c.mois;
 }
@@ -36,8 +47,16 @@ TEST(HeureCentieme, MinutesEnCentiemesJointesCommeTexte) {
         const char* heure;
         float centiemes;
     };
-    for (const Cas c : {Cas{"09H30", 950}, {"10H15", 1025}, {"00H00", 0}, {"19H00", 1900},
-                        {"12H20", 1233}, {"08H10", 817}, {"12H45", 1275}, {"07H59", 798},
-                        {"09H60", 9100}, {"09:30", 950}, {"  H  ", 0}})
+    for (const Cas c : {Cas{"09H30", 950},
+                        {"10H15", 1025},
+                        {"00H00", 0},
+                        {"19H00", 1900},
+                        {"12H20", 1233},
+                        {"08H10", 817},
+                        {"12H45", 1275},
+                        {"07H59", 798},
+                        {"09H60", 9100},
+                        {"09:30", 950},
+                        {"  H  ", 0}})
         EXPECT_FLOAT_EQ(heure_centieme(QString::fromLatin1(c.heure)), c.centiemes) << c.heure;
 }

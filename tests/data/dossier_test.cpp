@@ -40,8 +40,7 @@ TEST_F(Dossier, DrapeauEcranTactileDuRecord42) {
         QByteArray octets;
         for (int r = 1; r < c.records; ++r)
             octets += Gabarit(20).texte(0, 20, "99").octets();
-        if (c.records == 42)
-            octets += Gabarit(20).texte(0, 20, c.texte).octets();
+        if (c.records == 42) octets += Gabarit(20).texte(0, 20, c.texte).octets();
         ecrit(QStringLiteral("w_cai020.wdo"), octets);
         etat.clavier_ecran = -1;
         lit_clavier_ecran();
@@ -94,12 +93,11 @@ TEST_F(Dossier, CeQuiArreteLeProgramme) {
     QByteArray vingt_et_une;
     for (int i = 1; i <= 21; ++i)
         vingt_et_une += "01 : Nom\r\n";
-    for (const Cas& c : {Cas{"absent", {}, "lien_agenda.txt"},
-                         Cas{"21 lignes", vingt_et_une, "20 collaborateurs"},
-                         Cas{"numéro 21", "21 : Nom\r\n", "dépasse 20"}}) {
+    for (const Cas& c :
+         {Cas{"absent", {}, "lien_agenda.txt"}, Cas{"21 lignes", vingt_et_une, "20 collaborateurs"},
+          Cas{"numéro 21", "21 : Nom\r\n", "dépasse 20"}}) {
         QFile::remove(QStringLiteral("lien_agenda.txt"));
-        if (!c.contenu.isEmpty())
-            lien(c.contenu);
+        if (!c.contenu.isEmpty()) lien(c.contenu);
         try {
             charge_collaborateurs();
             ADD_FAILURE() << c.nom;

@@ -11,8 +11,15 @@ TEST(Cp1252, CaracteresDeLaPlage80a9FEtLatin1) {
         std::uint8_t octet;
         char16_t car;
     };
-    for (const Cas c : {Cas{0x80, u'€'}, {0x9C, u'œ'}, {0x8C, u'Œ'}, {0x92, u'’'}, {0x85, u'…'},
-                        {0xE9, u'é'}, {0xE0, u'à'}, {0xC7, u'Ç'}, {'A', u'A'}}) {
+    for (const Cas c : {Cas{0x80, u'€'},
+                        {0x9C, u'œ'},
+                        {0x8C, u'Œ'},
+                        {0x92, u'’'},
+                        {0x85, u'…'},
+                        {0xE9, u'é'},
+                        {0xE0, u'à'},
+                        {0xC7, u'Ç'},
+                        {'A', u'A'}}) {
         EXPECT_EQ(octets::car_cp1252(c.octet), QChar(c.car)) << int(c.octet);
         EXPECT_EQ(octets::octet_cp1252(QChar(c.car)), c.octet) << int(c.octet);
     }
@@ -29,7 +36,8 @@ TEST(ChampTexte, ComplateDeBlancsEtCoupeALaLargeur) {
     std::array<std::uint8_t, 8> buf{};
     buf.fill('#');
     octets::pose_texte(buf, 1, 4, u"é€");
-    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(buf.data()), 8), QByteArray("#\xE9\x80  ###"));
+    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(buf.data()), 8),
+              QByteArray("#\xE9\x80  ###"));
     octets::pose_texte(buf, 1, 4, u"abcdefgh");
     EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(buf.data()), 8), QByteArray("#abcd###"));
     EXPECT_EQ(octets::texte(buf, 1, 6), QStringLiteral("abcd##"));
@@ -54,8 +62,16 @@ TEST(LectureNumerique, SArreteAuPremierCaractereQuiNEstPasUnChiffre) {
         const char* texte;
         double valeur;
     };
-    for (const Cas c : {Cas{"12abc", 12}, {"", 0}, {"   ", 0}, {"  7", 7}, {"0007 Nom", 7},
-                        {"-3", -3}, {"09", 9}, {"1.5x", 1.5}, {"x12", 0}, {"#GENE#", 0}})
+    for (const Cas c : {Cas{"12abc", 12},
+                        {"", 0},
+                        {"   ", 0},
+                        {"  7", 7},
+                        {"0007 Nom", 7},
+                        {"-3", -3},
+                        {"09", 9},
+                        {"1.5x", 1.5},
+                        {"x12", 0},
+                        {"#GENE#", 0}})
         EXPECT_DOUBLE_EQ(val(QString::fromLatin1(c.texte)), c.valeur) << c.texte;
 }
 

@@ -45,7 +45,8 @@ TEST_F(Parametres, ReecrireUneCleGardeLaLongueurEtLeCompte) {
 TEST_F(Parametres, LeNouveauRecordReprendLaFinDuRecordUn) {
     ecrit(store, record_param("", "", 1, 'Q') + record_param("TORVA:HORL", "1", 0, 'Q'));
     ecrit_param(QStringLiteral("COUL_FERIE"), QStringLiteral("12632256"));
-    EXPECT_EQ(contenu(store), record_param("", "", 2, 'Q') + record_param("TORVA:HORL", "1", 0, 'Q') +
+    EXPECT_EQ(contenu(store), record_param("", "", 2, 'Q') +
+                                  record_param("TORVA:HORL", "1", 0, 'Q') +
                                   record_param("COUL_FERIE", "12632256", 0, 'Q'));
 }
 

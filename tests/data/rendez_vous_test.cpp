@@ -17,7 +17,9 @@ Gabarit vierge() {
     return g;
 }
 
-QByteArray entete(std::int32_t dernier) { return vierge().i32(466, dernier).octets(); }
+QByteArray entete(std::int32_t dernier) {
+    return vierge().i32(466, dernier).octets();
+}
 
 QByteArray rv(const char* cle, std::int32_t couleur = 0xFFFFFF, std::int32_t encadre = 0) {
     return vierge()
@@ -44,7 +46,8 @@ TEST_F(Rendezvous, NumeroAlloueEnAjoutant) {
     ouvre_rv();
     EXPECT_EQ(alloue_numero(f()), 1);
     // Record 1 was read past the end: blank texts, so its last two bytes are blanks.
-    const QByteArray apres_un = vierge().i32(466, 1).octets() + vierge().texte(510, 2, "\r\n").octets();
+    const QByteArray apres_un =
+        vierge().i32(466, 1).octets() + vierge().texte(510, 2, "\r\n").octets();
     EXPECT_EQ(contenu(fichier), apres_un);
     EXPECT_EQ(alloue_numero(f()), 2);
     EXPECT_EQ(contenu(fichier).size(), 3 * 512);
@@ -66,7 +69,8 @@ TEST_F(Rendezvous, EnTeteRepareParLaLongueurSeulementSIlRetarde) {
         charge_journee();
         const QByteArray apres = contenu(fichier);
         EXPECT_EQ(apres.size(), c.records * 512);
-        EXPECT_EQ(apres.mid(466, 4), entete(c.attendu).mid(466, 4)) << c.records << " " << c.dernier;
+        EXPECT_EQ(apres.mid(466, 4), entete(c.attendu).mid(466, 4))
+            << c.records << " " << c.dernier;
         EXPECT_EQ(apres.mid(512), octets.mid(512)); // nothing else written
     }
 }
@@ -80,14 +84,14 @@ TEST_F(Rendezvous, FichierVideDonneUneJourneeVide) {
 
 TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
     ecrit(fichier, entete(9) + rv("040303:14H00:15H00", 0xC0C0FF, 1) // 1
-                       + rv("----------")                          // 2: deleted in the editor
-                       + rv("--------------------")                // 3: deleted from the list
-                       + rv("")                                    // 4: transferred
-                       + rv("040304:09H00:09H30")                  // 5: another day
-                       + rv("0403xx:09H00:09H30")                  // 6: damaged date
-                       + rv("040303:09H30:10H15", 12632256)        // 7
-                       + rv("040303garbage")                       // 8: matched on six characters
-                       + rv("040303:09H30:10H15"));                // 9: same key again
+                       + rv("----------")                            // 2: deleted in the editor
+                       + rv("--------------------")                  // 3: deleted from the list
+                       + rv("")                                      // 4: transferred
+                       + rv("040304:09H00:09H30")                    // 5: another day
+                       + rv("0403xx:09H00:09H30")                    // 6: damaged date
+                       + rv("040303:09H30:10H15", 12632256)          // 7
+                       + rv("040303garbage")                         // 8: matched on six characters
+                       + rv("040303:09H30:10H15"));                  // 9: same key again
     ouvre_rv();
     charge_journee();
     ASSERT_EQ(etat.nb_jour(), 4);

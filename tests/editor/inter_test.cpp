@@ -27,7 +27,8 @@ TEST_F(Messages, PremiereLectureCreeLeFichier) {
 
 TEST_F(Messages, EcrireUneCleNouvellePuisLaRelireSansCasse) {
     ecrit_inter(QStringLiteral("torva:numuser"), QStringLiteral("0007 L\u00e9a"));
-    EXPECT_EQ(contenu(intlog), inter("#INIT#", "", 1) + inter("TORVA:NUMUSER", "0007 L\xE9\x61", 0));
+    EXPECT_EQ(contenu(intlog),
+              inter("#INIT#", "", 1) + inter("TORVA:NUMUSER", "0007 L\xE9\x61", 0));
     const QString v = lit_inter(QStringLiteral("TORVA:NUMUSER"));
     EXPECT_EQ(v.size(), 40);
     EXPECT_EQ(v.trimmed(), QStringLiteral("0007 Léa"));
@@ -54,10 +55,16 @@ TEST_F(Messages, LesCanauxSontRendusApresChaqueOperation) {
 TEST_F(Messages, FicheDuRendezVousAuPremierUsage) {
     ecrit_rendez_vous(QStringLiteral("Mercredi 03 mars 2004"), QStringLiteral("14"),
                       QStringLiteral("05"));
-    const char* lignes[] = {"Merci de noter",     "votre prochain",
-                            "rendez-vous",        "merci de pr\xE9venir",
-                            "en cas d'impossibilit\xE9", "de votre part",
-                            "Mercredi 03 mars 2004", "\xE0 : 14 H 05", "", ""};
+    const char* lignes[] = {"Merci de noter",
+                            "votre prochain",
+                            "rendez-vous",
+                            "merci de pr\xE9venir",
+                            "en cas d'impossibilit\xE9",
+                            "de votre part",
+                            "Mercredi 03 mars 2004",
+                            "\xE0 : 14 H 05",
+                            "",
+                            ""};
     // The date of the initialisation stands in every key, cut to 15 characters.
     QByteArray attendu = inter("#INIT#03/03/200", "", 0);
     for (const char* l : lignes)

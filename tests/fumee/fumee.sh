@@ -16,7 +16,7 @@ env -u QT_QPA_PLATFORM "$agenda" 2> "$sortie/agenda.err" &
 pid=\$!
 fenetre=""
 for _ in \$(seq 1 50); do
-    fenetre=\$(xdotool search --name '^Agenda' 2>/dev/null | head -1 || true)
+    fenetre=\$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1 || true)
     [ -n "\$fenetre" ] && break
     sleep 0.2
 done

@@ -71,7 +71,8 @@ TEST_F(BoiteInvite, LesAutresModesMontrentLesDeuxBoutonsSansChamp) {
 }
 
 TEST_F(BoiteInvite, UnAnnulerRendAussiLeTexte) {
-    montre(129, QStringLiteral("Modification du message ?|Bonjour"), [](Mini97& b) { b.btc_Click(3); });
+    montre(129, QStringLiteral("Modification du message ?|Bonjour"),
+           [](Mini97& b) { b.btc_Click(3); });
     EXPECT_EQ(etat.mini_mode, 7);
     EXPECT_EQ(etat.mini_texte, QStringLiteral("Bonjour"));
 }

@@ -1,8 +1,8 @@
 // Tests run with a widget application on the offscreen platform: fonts and text measures are
 // real, no display is needed.
 
-#include <QApplication>
 #include <gtest/gtest.h>
+#include <QApplication>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -3,9 +3,9 @@
 #include "data/fichier_records.h"
 #include "ui/systeme.h"
 
+#include <cstring>
 #include <QDir>
 #include <QFile>
-#include <cstring>
 
 namespace agenda::test {
 
@@ -59,7 +59,9 @@ void DossierDonnees::TearDown() {
     QDir::setCurrent(ancien_);
 }
 
-void DossierDonnees::fixe_maintenant(const QDateTime& t) { maintenant_ = t; }
+void DossierDonnees::fixe_maintenant(const QDateTime& t) {
+    maintenant_ = t;
+}
 
 QByteArray DossierDonnees::contenu(const QString& nom) const {
     QFile f(chemin(nom));

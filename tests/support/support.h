@@ -4,17 +4,19 @@
 
 #include "data/etat.h"
 
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <ostream>
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QTemporaryDir>
-#include <cstdint>
-#include <gtest/gtest.h>
-#include <ostream>
 #include <vector>
 
 // Readable QString values in failure messages.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
 
 namespace agenda::test {
 

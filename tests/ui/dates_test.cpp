@@ -19,9 +19,12 @@ TEST(Dates, MotifsEnFrancais) {
         const char16_t* motif;
         const char* attendu;
     };
-    for (const Cas c : {Cas{u"yymmdd", "040303"}, {u"dd/mm/yyyy", "03/03/2004"},
-                        {u"dddd dd mmmm yyyy", "mercredi 03 mars 2004"}, {u"ddmm", "0303"},
-                        {u"d", "3"}, {u"mmmm", "mars"}})
+    for (const Cas c : {Cas{u"yymmdd", "040303"},
+                        {u"dd/mm/yyyy", "03/03/2004"},
+                        {u"dddd dd mmmm yyyy", "mercredi 03 mars 2004"},
+                        {u"ddmm", "0303"},
+                        {u"d", "3"},
+                        {u"mmmm", "mars"}})
         EXPECT_EQ(format_date(d, c.motif), QString::fromUtf8(c.attendu));
     EXPECT_EQ(format_date(date_de(QDate(2026, 8, 15)), u"dddd dd mmmm"),
               QStringLiteral("samedi 15 août"));

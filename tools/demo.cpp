@@ -153,7 +153,8 @@ void ecrit_rendez_vous_collab(int collab, QRandomGenerator& rng) {
             const int fin = minute + s.minutes;
             const std::int32_t n = alloue_numero(f);
             RecRv r = lit_record<RecRv>(f, n + 1);
-            r.cle_rv = cle_rendez_vous(jour, minute / 60, minute % 60, fin / 60, fin % 60);
+            r.cle_rv = cle_rendez_vous(jour, motif_zeros(minute / 60, 2), motif_zeros(minute % 60, 2),
+                                       motif_zeros(fin / 60, 2), motif_zeros(fin % 60, 2));
             r.texte_rv = QString::fromUtf8(s.nom) + QStringLiteral(" - ") +
                          QString::fromUtf8(clients[client - 2].nom);
             r.duree_rv = s.minutes;

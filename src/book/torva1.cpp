@@ -9,6 +9,7 @@
 #include "data/record.h"
 #include "data/rendez_vous.h"
 #include "data/texte.h"
+#include "editor/detarv.h"
 #include "editor/inter.h"
 #include "ui/dates.h"
 #include "ui/systeme.h"
@@ -98,7 +99,6 @@ void Torva1::charge() {
     }
     Timer3.start(1500);
     if (etat.date_courante == 0) etat.date_courante = ui::date_maintenant();
-    calend = etat.date_courante;
     sel_click_g(0);
     sel_onglet(0);
     if (lit_inter(QStringLiteral("TORVA:NUMUSER")).left(6) == QLatin1String("#GENE#"))
@@ -124,9 +124,9 @@ void Torva1::lit_param() {
     etat.duree_defaut = champ_heure(heures, 10, 3);
 
     const QString numuser = lit_inter(QStringLiteral("TORVA:NUMUSER"));
-    if (!numuser.trimmed().isEmpty()) {
+    if (!sans_blancs(numuser).isEmpty()) {
         etat.num_collab = static_cast<std::int16_t>(val(numuser.left(4)));
-        Label7 = mid1(numuser, 6).trimmed();
+        Label7 = sans_blancs(mid1(numuser, 6));
     } else {
         etat.num_collab = 0;
         Label7 = QStringLiteral("Agenda");
@@ -134,7 +134,7 @@ void Torva1::lit_param() {
 }
 
 void Torva1::appel_menu() {
-    const QString retour = lit_inter(QStringLiteral("TORVA:RETOUR")).trimmed();
+    const QString retour = sans_blancs(lit_inter(QStringLiteral("TORVA:RETOUR")));
     if (!retour.isEmpty()) {
         ui::lance_commande(retour);
         ui::cede();
@@ -176,20 +176,55 @@ void Torva1::sel_onglet(int n) {
 
 void Torva1::calend_Click(Date jour) {
     etat.date_courante = jour;
-    calend = jour;
     sel_onglet(0);
 }
 
 void Torva1::Picture2_Click() {
     etat.date_courante -= 1;
-    calend = etat.date_courante;
     sel_onglet(0);
 }
 
 void Torva1::Picture3_Click() {
     etat.date_courante += 1;
-    calend = etat.date_courante;
     sel_onglet(0);
+}
+
+void Torva1::pageg_MouseDown(int x, int y) {
+    etat.num_rv = 0;
+    clic_page(slot_page::base_gauche, x, y);
+}
+
+void Torva1::paged_MouseDown(int x, int y) {
+    // num_rv is left as the editor left it: 0 after every way out.
+    clic_page(slot_page::base_droite, x, y);
+}
+
+void Torva1::clic_page(int b, int x, int y) {
+    using namespace slot_page;
+    etat.page_base = static_cast<std::int16_t>(b);
+    const auto& t = table_pages;
+    const bool dans_la_regle = x >= t[b + gauche] - 200 && x < t[b + gauche] + t[b + largeur] &&
+                               y >= t[b + haut] && y < t[b + haut] + t[b + hauteur];
+    if (!dans_la_regle)
+        return;
+    // Only the whole hour goes to the editor.
+    etat.heure_clic = static_cast<std::int16_t>(t[b + heure_premiere] +
+                                                (y - t[b + haut]) / t[b + hauteur_heure]);
+    Detarv editeur;
+    ui::montre_modal(editeur);
+    affiche_rv();
+    emit modifie();
+}
+
+void Torva1::lrv_Click(int i) {
+    if (i <= 0 || std::size_t(i) >= num_rv_label.size())
+        return;
+    etat.num_rv = num_rv_label[std::size_t(i)];
+    Detarv editeur;
+    ui::montre_modal(editeur);
+    decod_date();
+    affiche_rv();
+    emit modifie();
 }
 
 void Torva1::lit_param_jour() {
@@ -262,6 +297,7 @@ void Torva1::dessine_agenda(ui::Surface& surface) {
 
 void Torva1::decod_date() {
     const Date d = etat.date_courante;
+    calend = d;
     Label1 = ui::format_date(d, u"yyyy");
     Label2 = initiale_majuscule(ui::nom_jour(ui::jour_semaine(d)));
     Label3 = ui::format_date(d, u"dd");
@@ -294,7 +330,7 @@ void Torva1::place_etiquette(int i, const QString& e) {
     et.width = table_pages[b + largeur] - 90;
     et.bordure = entree_jour::encadre(e);
     et.couleur = rec.couleur_rv;
-    et.legende = rec.texte_rv.trimmed();
+    et.legende = sans_blancs(rec.texte_rv);
     num_rv_label[std::size_t(i)] = numero;
     const float debut = heure_centieme(entree_jour::heure_debut(e));
     et.top = int(std::lround(debut * echelle_page + table_pages[b + origine]));

@@ -64,6 +64,12 @@ public:
     void calend_Click(Date jour);
     void Picture2_Click(); // the day before
     void Picture3_Click(); // the day after
+    // A click in the ruling opens a new appointment at that hour; on a label, that appointment.
+    // Coordinates are twips of the page.
+    void pageg_MouseDown(int x, int y);
+    void paged_MouseDown(int x, int y);
+    void lrv_Click(int i);
+    void lrvd_Click(int i) { lrv_Click(i); }
 
     // What the window shows.
     std::array<std::int16_t, 51> table_pages{};
@@ -90,6 +96,7 @@ signals:
 
 private:
     void place_etiquette(int i, const QString& entree);
+    void clic_page(int base, int x, int y);
 };
 
 } // namespace agenda

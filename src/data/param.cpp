@@ -43,7 +43,7 @@ QString lit_valeur_param(const QString& cle) {
     ouvre_param();
     RecParam rec;
     const int i = cherche(cadre(cle, RecParam::lg_cle), rec);
-    const QString resultat = i > 0 ? rec.valeur_param.trimmed() : QString();
+    const QString resultat = i > 0 ? sans_blancs(rec.valeur_param) : QString();
     ferme_param();
     return resultat;
 }

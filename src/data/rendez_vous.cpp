@@ -108,10 +108,11 @@ QString motif_jour(Date d) {
     return ui::format_date(d, u"yymmdd");
 }
 
-QString cle_rendez_vous(Date jour, int heure, int minute, int heure_fin, int minute_fin) {
-    return motif_jour(jour) + QLatin1Char(':') + motif_zeros(heure, 2) + QLatin1Char('H') +
-           motif_zeros(minute, 2) + QLatin1Char(':') + motif_zeros(heure_fin, 2) +
-           QLatin1Char('H') + motif_zeros(minute_fin, 2) + QStringLiteral("  ");
+QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
+                        const QString& heure_fin, const QString& minute_fin) {
+    return cadre(motif_jour(jour) + QLatin1Char(':') + heure + QLatin1Char('H') + minute +
+                     QLatin1Char(':') + heure_fin + QLatin1Char('H') + minute_fin,
+                 RecRv::lg_cle);
 }
 
 std::int32_t code_jour(Date jour) {

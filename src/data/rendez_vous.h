@@ -20,8 +20,10 @@ std::int32_t repare_entete(FichierRecords& f);
 
 // The day pattern "yymmdd" of a date.
 QString motif_jour(Date d);
-// The key of an appointment: "yymmdd:HHHMM:HHHMM" and two blanks.
-QString cle_rendez_vous(Date jour, int heure, int minute, int heure_fin, int minute_fin);
+// The key of an appointment: "yymmdd:HHHMM:HHHMM" and two blanks, from the hour and minute texts
+// as they stand.
+QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
+                        const QString& heure_fin, const QString& minute_fin);
 // The day of the month plus 31 times the month.
 std::int32_t code_jour(Date jour);
 

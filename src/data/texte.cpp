@@ -31,6 +31,15 @@ QString motif_zeros(double valeur, int chiffres) {
     return arrondi < 0 ? QLatin1Char('-') + t : t;
 }
 
+QString sans_blancs(const QString& s) {
+    qsizetype debut = 0, fin = s.size();
+    while (debut < fin && s[debut] == QLatin1Char(' '))
+        ++debut;
+    while (fin > debut && s[fin - 1] == QLatin1Char(' '))
+        --fin;
+    return s.mid(debut, fin - debut);
+}
+
 QString initiale_majuscule(const QString& s) {
     if (s.isEmpty()) return s;
     return s.left(1).toUpper() + s.mid(1);

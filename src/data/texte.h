@@ -27,6 +27,9 @@ inline QString cadre(const QString& s, int largeur) {
     return s.leftJustified(largeur, QLatin1Char(' '), true);
 }
 
+// Blanks removed from both ends, and only blanks: a line break at the edge of a text stays.
+QString sans_blancs(const QString& s);
+
 // The first letter in upper case, the rest as is.
 QString initiale_majuscule(const QString& s);
 

@@ -49,7 +49,7 @@ void ferme_inter() {
 }
 
 QString cle_recherche(const QString& cle) {
-    return cadre(cle.trimmed(), RecInter::lg_cle).toUpper();
+    return cadre(sans_blancs(cle), RecInter::lg_cle).toUpper();
 }
 
 bool porte_marque(const RecInter& r) {
@@ -141,7 +141,7 @@ void ecrit_rendez_vous(const QString& date_en_lettres, const QString& heure,
     // The lines take the other fields of the buffer that the opening left: record 1's.
     RecInter r = ouvre_rvv_181();
     auto& f = canal_fichier(canal::fiche_rv);
-    r.valeur_inter = date_en_lettres.trimmed();
+    r.valeur_inter = sans_blancs(date_en_lettres);
     ecrit_record(f, 8, r);
     r.valeur_inter = QStringLiteral("à : ") + heure + QStringLiteral(" H ") + minute;
     ecrit_record(f, 9, r);

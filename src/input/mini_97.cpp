@@ -1,6 +1,7 @@
 #include "input/mini_97.h"
 
 #include "data/etat.h"
+#include "data/texte.h"
 
 namespace agenda {
 
@@ -27,7 +28,7 @@ void Mini97::Text1_Change(const QString& texte) {
 
 void Mini97::btc_Click(int index) {
     etat.mini_mode = index == 2 ? 6 : 7;
-    etat.mini_texte = Text1.trimmed();
+    etat.mini_texte = sans_blancs(Text1);
     ferme();
 }
 

@@ -83,3 +83,12 @@ TEST(Motifs, ZerosEnTeteEtArrondi) {
     EXPECT_EQ(cadre(QStringLiteral("abc"), 5), QStringLiteral("abc  "));
     EXPECT_EQ(cadre(QStringLiteral("abcdef"), 5), QStringLiteral("abcde"));
 }
+
+TEST(SansBlancs, NOteQueLesBlancs) {
+    struct Cas {
+        const char *texte, *attendu;
+    };
+    for (const Cas c : {Cas{"  a b  ", "a b"}, {"\r\nCoupe ", "\r\nCoupe"}, {"   ", ""},
+                        {"\tx\t", "\tx\t"}, {"", ""}})
+        EXPECT_EQ(sans_blancs(QString::fromLatin1(c.texte)), QString::fromLatin1(c.attendu));
+}

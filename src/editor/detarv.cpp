@@ -1,0 +1,364 @@
+#include "editor/detarv.h"
+
+#include "clients/client.h"
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/param.h"
+#include "data/record.h"
+#include "data/rendez_vous.h"
+#include "data/texte.h"
+#include "editor/inter.h"
+#include "input/date_97.h"
+#include "input/mini_97.h"
+#include "ui/dates.h"
+#include "ui/systeme.h"
+
+#include <cmath>
+
+namespace agenda {
+
+namespace {
+
+constexpr double pi = 3.1415926;
+constexpr double une_minute = 0.016666;
+constexpr double centre_x = 2515, centre_y = 2520;
+constexpr double longueur_h = 1300, longueur_m = 1800;
+constexpr std::int32_t orange = 33023, blanc = 0xFFFFFF;
+
+// Face 0, as placed on its picture.
+constexpr std::array<ui::RectTwips, 12> heures_face0 = {{
+    {2190, 510, 615, 585},  {3060, 750, 615, 585},  {3600, 1350, 615, 585},
+    {3900, 2190, 615, 585}, {3600, 3090, 615, 585}, {3000, 3750, 615, 585},
+    {2190, 3990, 615, 585}, {1320, 3750, 615, 585}, {720, 3090, 615, 645},
+    {420, 2250, 645, 585},  {750, 1440, 675, 585},  {1350, 750, 675, 555},
+}};
+constexpr std::array<ui::RectTwips, 12> minutes_face0 = {{
+    {2220, 60, 525, 345},   {3390, 330, 465, 375},  {4290, 1170, 345, 435},
+    {4590, 2280, 405, 465}, {4320, 3450, 345, 465}, {3420, 4350, 465, 405},
+    {2280, 4620, 435, 375}, {1170, 4320, 345, 405}, {300, 3420, 375, 465},
+    {30, 2310, 375, 495},   {300, 1170, 405, 465},  {1110, 300, 465, 435},
+}};
+
+// The two ring radii of faces 1 to 3: each cell's centre on its ring, at 30 degrees a cell.
+struct Anneaux {
+    int heures, minutes;
+};
+constexpr std::array<Anneaux, 4> anneaux = {{{1700, 2300}, {1500, 2060}, {1450, 2260}, {1720, 2320}}};
+
+std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& tailles, int rayon) {
+    std::array<ui::RectTwips, 12> cellules{};
+    for (int i = 0; i < 12; ++i) {
+        const double a = i * pi / 6;
+        const auto& t = tailles[std::size_t(i)];
+        cellules[std::size_t(i)] = {int(std::lround(centre_x + rayon * std::sin(a) - t.width / 2.0)),
+                                    int(std::lround(centre_y - rayon * std::cos(a) - t.height / 2.0)),
+                                    t.width, t.height};
+    }
+    return cellules;
+}
+
+QString nombre(double v) { return QString::number(v, 'g', 15); }
+
+QString chiffres(const QString& texte) {
+    QString r;
+    for (const QChar c : texte)
+        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+            r += c;
+    return r;
+}
+
+} // namespace
+
+const std::array<std::array<const char*, 4>, 4> Detarv::g2 = {{
+    {"-10", "-5", "+5", "+10"},
+    {"15", "20", "25", "30"},
+    {"35", "40", "45", "50"},
+    {"1h00", "1h15", "1h30", "2h00"},
+}};
+
+QStringList Detarv::heures() {
+    QStringList l;
+    for (int h = 0; h < 24; ++h)
+        l << motif_zeros(h, 2);
+    return l;
+}
+
+QStringList Detarv::minutes() {
+    QStringList l;
+    for (int m = 0; m < 60; m += 5)
+        l << motif_zeros(m, 2);
+    return l;
+}
+
+void Detarv::Form_Load() {
+    lit_horloge();
+    charge_horloge();
+    ref_sms_chargee.clear();
+    ouvre_clients();
+    for (int i = 1; i <= etat.nb_collab; ++i) {
+        const QString& entree = etat.noms_collab[std::size_t(i)];
+        if (val(entree.left(2)) == etat.num_collab) {
+            Label13 = sans_blancs(mid1(entree, 5));
+            break;
+        }
+    }
+    Label4 = jour_en_lettres(etat.date_courante);
+    Label7 = nombre(etat.duree_defaut);
+    etat.num_rv != 0 ? charge_rv() : init_rv();
+    analyse_per();
+    affiche_heure();
+    remplit_services();
+}
+
+void Detarv::lit_horloge() {
+    const QString horl = lit_valeur_param(QStringLiteral("TORVA:HORL"));
+    Label16 = nombre(val(horl));
+    // A hand whose mark is missing keeps its designed colour.
+    if (const qsizetype p = horl.indexOf(QLatin1String("|H|")); p >= 0)
+        aiguilh.couleur = std::int32_t(val(horl.mid(p + 3, 10)));
+    if (const qsizetype p = horl.indexOf(QLatin1String("|M|")); p >= 0)
+        aiguilm.couleur = std::int32_t(val(horl.mid(p + 3, 10)));
+}
+
+void Detarv::init_rv() {
+    const int h = etat.heure_clic;
+    Check2 = h >= 12 ? 1 : 0;
+    const QStringList liste = heures();
+    // An hour past the list (23 + 1) leaves the end empty; the end is computed again anyway.
+    Combo1 = h >= 0 && h < liste.size() ? liste[h] : QString();
+    Combo3 = h + 1 >= 0 && h + 1 < liste.size() ? liste[h + 1] : QString();
+    Combo2 = Combo4 = QStringLiteral("00");
+}
+
+void Detarv::charge_rv() {
+    const RecRv r = lit_record<RecRv>(canal::rv, etat.num_rv + 1);
+    Text1 = sans_blancs(r.texte_rv);
+    Combo1 = mid1(r.cle_rv, 8, 2);
+    Check2 = val(Combo1) < 12 ? 0 : 1;
+    Combo2 = mid1(r.cle_rv, 11, 2);
+    Combo3 = mid1(r.cle_rv, 14, 2);
+    Combo4 = mid1(r.cle_rv, 17, 2);
+    Check1 = r.encadre_rv;
+    std::int32_t duree = r.duree_rv;
+    if (duree == 0)
+        duree = std::int32_t((val(Combo3) * 60 + val(Combo4)) - (val(Combo1) * 60 + val(Combo2)));
+    if (r.num_client != 0) {
+        Label14 = QString::number(r.num_client);
+        affiche_client();
+    }
+    ref_sms_chargee = r.ref_sms;
+    Label8 = ref_sms_chargee;
+    Label7 = QString::number(duree);
+    Text1_couleur = r.couleur_rv;
+}
+
+void Detarv::sauve_rv() {
+    auto& f = canal_fichier(canal::rv);
+    if (etat.num_rv == 0)
+        etat.num_rv = alloue_numero(f);
+    RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
+    r.cle_rv = cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4);
+    r.texte_rv = sans_blancs(Text1);
+    r.couleur_rv = Text1_couleur;
+    r.encadre_rv = Check1;
+    r.code_jour = code_jour(etat.date_courante);
+    r.duree_rv = std::int32_t(std::nearbyint(val(Label7)));
+    if (r.duree_rv < 0 || r.duree_rv > duree_maximum)
+        r.duree_rv = etat.duree_defaut;
+    r.ref_sms = QString();
+    r.num_client = std::int32_t(val(Label14));
+    ref_sms_nouvelle.clear();
+    if (!sans_blancs(Text2).isEmpty()) {
+        ref_sms_nouvelle = cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
+        r.ref_sms = ref_sms_nouvelle;
+    }
+    ecrit_record(f, etat.num_rv + 1, r);
+}
+
+void Detarv::bt_valid_Click() {
+    // An empty text saves nothing, not even over an existing appointment.
+    if (!sans_blancs(Text1).isEmpty())
+        sauve_rv();
+    etat.num_rv = 0;
+    ecrit_rendez_vous(Label4, Combo1, Combo2);
+    ferme();
+}
+
+void Detarv::bt_annul_Click() {
+    if (etat.num_rv == 0) {
+        ferme(); // a new appointment: the way out without saving
+        return;
+    }
+    if (demande(QStringLiteral("Confirmez l'effacement du rendez-vous ?"), 4) != 6)
+        return;
+    auto& f = canal_fichier(canal::rv);
+    RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
+    r.cle_rv = QStringLiteral("----------");
+    ecrit_record(f, etat.num_rv + 1, r);
+    ui::cede();
+    etat.num_rv = 0;
+    ferme();
+}
+
+void Detarv::bt_annull_Click() {
+    if (demande(QStringLiteral("Confirmez l'effacement du texte et du détail des prestations ?"),
+                4) != 6)
+        return;
+    Text1.clear();
+    Label9 = QStringLiteral("NO");
+    Label7 = nombre(etat.duree_defaut);
+    if (focus_texte)
+        focus_texte();
+    ui::cede();
+}
+
+void Detarv::bt_corr_Click() {
+    Date97 choix;
+    ui::montre_modal(choix);
+    if (!sans_blancs(etat.texte_retour).isEmpty())
+        Label4 = jour_en_lettres(etat.date_courante);
+}
+
+void Detarv::affiche_client() {
+    etat.num_client_courant = static_cast<std::int16_t>(std::nearbyint(val(Label14)));
+    lit_client(etat.num_client_courant);
+    const QString nom_client = sans_blancs(rec_cli.texte(RecCli::off_nom, RecCli::lg_nom));
+    const QString fin_de_ligne = QStringLiteral("\r\n");
+    Label15 = nom_client + fin_de_ligne +
+              sans_blancs(rec_cli.texte(RecCli::off_adresse1, RecCli::lg_adresse1)) + fin_de_ligne +
+              sans_blancs(rec_cli.texte(RecCli::off_code_ville, RecCli::lg_code_ville)) +
+              fin_de_ligne + QStringLiteral("Téléphone : --------------------------------------");
+    Text2 = chiffres(rec_cli.texte(RecCli::off_telephone, RecCli::lg_telephone));
+    Image2_visible = true;
+    if (sans_blancs(Text1).isEmpty())
+        Text1 = nom_client;
+}
+
+void Detarv::Picture1_MouseDown(std::int32_t couleur) {
+    if (couleur != 0) // pure black cannot be picked
+        Text1_couleur = couleur;
+}
+
+void Detarv::charge_horloge() {
+    face = int(val(Label16));
+    if (face < 0 || face >= int(anneaux.size())) {
+        sheur = heures_face0; // the cells stay where the window has them
+        sminu = minutes_face0;
+        return;
+    }
+    if (face == 0) {
+        sheur = heures_face0;
+        sminu = minutes_face0;
+    } else {
+        sheur = sur_l_anneau(heures_face0, anneaux[std::size_t(face)].heures);
+        sminu = sur_l_anneau(minutes_face0, anneaux[std::size_t(face)].minutes);
+    }
+}
+
+void Detarv::ajuste_heure() {
+    const double h = std::fmod(std::nearbyint(val(Combo1)), 12.0);
+    const double m = val(Combo2);
+    const float t = float(h + m * une_minute);
+    const double a = (t / 6.0 + 1) * -pi;
+    const double b = (m / 30.0 + 1) * -pi;
+    aiguilh.x1 = aiguilm.x1 = centre_x;
+    aiguilh.y1 = aiguilm.y1 = centre_y;
+    aiguilh.x2 = longueur_h * std::sin(a) + centre_x;
+    aiguilh.y2 = longueur_h * std::cos(a) + centre_y;
+    aiguilm.x2 = longueur_m * std::sin(b) + centre_x;
+    aiguilm.y2 = longueur_m * std::cos(b) + centre_y;
+}
+
+void Detarv::affiche_heure() {
+    ajuste_heure();
+    calcul_fin();
+}
+
+void Detarv::analyse_per() {
+    Picture3_fond = Check2 == 0 ? orange : blanc;
+    picture4_fond = Check2 == 0 ? blanc : orange;
+}
+
+void Detarv::sheur_Click(int i) {
+    int v = Check2 * 12 + i;
+    if (v < etat.heure_debut)
+        v = etat.heure_debut;
+    if (v > etat.heure_fin)
+        v = etat.heure_fin;
+    Combo1 = motif_zeros(v, 2);
+    ajuste_heure();
+    calcul_fin();
+}
+
+void Detarv::sminu_Click(int i) {
+    Combo2 = motif_zeros(5 * i, 2);
+    ajuste_heure();
+    calcul_fin();
+}
+
+void Detarv::Picture3_Click() {
+    Check2 = 0;
+    analyse_per();
+}
+
+void Detarv::picture4_Click() {
+    Check2 = 1;
+    analyse_per();
+}
+
+void Detarv::calcul_fin() {
+    // The standard duration is also the shortest.
+    if (val(Label7) < etat.duree_defaut)
+        Label7 = nombre(etat.duree_defaut);
+    double h = val(Combo1);
+    double m = val(Combo2) + val(Label7);
+    while (m >= 60) {
+        h += 1;
+        m -= 60;
+    }
+    Combo3 = motif_zeros(h, 2);
+    Combo4 = motif_zeros(m, 2);
+}
+
+void Detarv::calcul_duree() {
+    Label7 = nombre((val(Combo3) * 60 + val(Combo4)) - (val(Combo1) * 60 + val(Combo2)));
+}
+
+void Detarv::g1_Click(int ligne) {
+    if (Label9 == QLatin1String("NO")) {
+        Label9.clear();
+        Label7.clear();
+    }
+    if (ligne < 0 || ligne >= int(g1.size()) || g1[std::size_t(ligne)].index.isEmpty())
+        return;
+    const LigneService& s = g1[std::size_t(ligne)];
+    Text1 = sans_blancs(Text1) + QStringLiteral("\r\n") + sans_blancs(s.nom);
+    Label7 = nombre(val(Label7) + val(s.minutes));
+    calcul_fin();
+}
+
+void Detarv::g2_Click(int ligne, int colonne) {
+    const QString texte = QString::fromLatin1(g2.at(std::size_t(ligne)).at(std::size_t(colonne)));
+    if (texte.startsWith(QLatin1Char('+')) || texte.startsWith(QLatin1Char('-')))
+        Label7 = motif_zeros(val(Label7) + val(texte), 1);
+    else if (texte.contains(QLatin1Char('h')))
+        Label7 = motif_zeros(val(texte.left(1)) * 60 + val(mid1(texte, 3)), 1);
+    else
+        Label7 = texte;
+    calcul_fin();
+}
+
+void Detarv::remplit_services() {
+    g1.clear();
+    for (std::int32_t i = 1; i <= etat.nb_services; ++i) {
+        const RecArr s = lit_record<RecArr>(canal::arr, i + 1);
+        g1.push_back({sans_blancs(s.nom_arr),
+                      QString::number(std::int64_t(val(s.info_arr.left(3)))) + QStringLiteral(" mn  "),
+                      QString::number(i)});
+    }
+    while (g1.size() < std::size_t(lignes_services))
+        g1.push_back({});
+}
+
+} // namespace agenda

@@ -1,0 +1,108 @@
+#pragma once
+// The appointment editor: one appointment from its record to the window and back, with its
+// client panel, the clock that sets its start and the grids that make its duration. This is
+// the window's logic; its widgets show these fields and call these handlers.
+
+#include "ui/geometrie.h"
+#include "ui/modale.h"
+
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace agenda {
+
+class Detarv : public ui::FenetreModale {
+public:
+    // The colour of a new appointment: the system's window colour, as its code.
+    static constexpr std::int32_t couleur_fenetre = std::int32_t(0x80000005u);
+    static constexpr int lignes_services = 50;
+    static constexpr int duree_maximum = 800;
+
+    QString nom() const override { return QStringLiteral("detarv"); }
+    void Form_Load() override;
+
+    // Load, save and delete.
+    void init_rv();
+    void charge_rv();
+    void sauve_rv();
+    void bt_valid_Click();
+    void bt_annul_Click();
+    void bt_annull_Click();
+    void bt_corr_Click();
+
+    // The client panel and the colour.
+    void affiche_client();
+    void Picture1_MouseDown(std::int32_t couleur_du_pixel);
+
+    // The clock.
+    void charge_horloge();
+    void ajuste_heure();
+    void affiche_heure();
+    void analyse_per();
+    void sheur_Click(int i);
+    void sminu_Click(int i);
+    void Picture3_Click();
+    void picture4_Click();
+    void Combo1_Click() { affiche_heure(); }
+    void Combo2_Click() { affiche_heure(); }
+
+    // Duration and services.
+    void calcul_fin();
+    void calcul_duree();
+    void Combo3_Click() { calcul_duree(); }
+    void Combo4_Click() { calcul_duree(); }
+    void Label7_LostFocus() { calcul_fin(); }
+    void g1_Click(int ligne);
+    void g2_Click(int ligne, int colonne);
+
+    // The selectors' lists: hours "00" to "23", minutes "00" to "55".
+    static QStringList heures();
+    static QStringList minutes();
+
+    // The controls.
+    QString Label4;                                      // the date in words
+    QString Label13 = QStringLiteral("Collaborateur");   // the collaborator
+    QString Text1;                                       // the appointment's text
+    std::int32_t Text1_couleur = couleur_fenetre;        // and its colour
+    QString Combo1, Combo2, Combo3, Combo4;              // start and end, hour and minute
+    int Check1 = 0;                                      // "Encadrement"
+    int Check2 = 0;                                      // afternoon
+    QString Label7;                                      // the duration in minutes
+    QString Label9 = QStringLiteral("NO");               // the standard duration still stands
+    QString Label14;                                     // the client number
+    QString Label15;                                     // the client panel
+    QString Text2;                                       // the SMS number
+    QString Label8;                                      // the SMS reference as loaded
+    bool Image2_visible = false;
+    QString ref_sms_chargee, ref_sms_nouvelle;
+
+    struct LigneService {
+        QString nom, minutes, index; // columns 0, 1 and 4
+    };
+    std::vector<LigneService> g1;
+    static const std::array<std::array<const char*, 4>, 4> g2;
+
+    // The clock face and its cells, in twips of the face picture.
+    struct Aiguille {
+        double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+        std::int32_t couleur = 0;
+    };
+    QString Label16; // the face number
+    int face = 0;
+    std::array<ui::RectTwips, 12> sheur{}, sminu{};
+    Aiguille aiguilh{0, 0, 0, 0, 0x000080}, aiguilm{0, 0, 0, 0, 0x800000};
+    std::int32_t Picture3_fond = 0, picture4_fond = 0;
+
+    // The widgets give the focus back to Text1.
+    std::function<void()> focus_texte;
+
+private:
+    void lit_horloge();
+    void remplit_services();
+};
+
+} // namespace agenda

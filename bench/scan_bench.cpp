@@ -53,8 +53,8 @@ void genere() {
                 d = jour;
             else if (d == jour)
                 d += 1;
-            rec.cle_rv = cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("00"), QStringLiteral("10"),
-                                         QStringLiteral("00"));
+            rec.cle_rv = cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("00"),
+                                         QStringLiteral("10"), QStringLiteral("00"));
             rec.texte_rv = QStringLiteral("Coupe et brushing");
             rec.couleur_rv = 0xC0FFC0;
         }

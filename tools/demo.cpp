@@ -150,11 +150,17 @@ void ecrit_rendez_vous_collab(int collab, QRandomGenerator& rng) {
         while (minute < 18 * 60) {
             const auto& s = services[rng.bounded(int(std::size(services)))];
             const int client = 2 + int(rng.bounded(int(std::size(clients))));
+            // Today, two o'clock stays free for a walk-in.
+            if (ecart == 0 && minute < 15 * 60 && minute + s.minutes > 14 * 60) {
+                minute = 15 * 60;
+                continue;
+            }
             const int fin = minute + s.minutes;
             const std::int32_t n = alloue_numero(f);
             RecRv r = lit_record<RecRv>(f, n + 1);
-            r.cle_rv = cle_rendez_vous(jour, motif_zeros(minute / 60, 2), motif_zeros(minute % 60, 2),
-                                       motif_zeros(fin / 60, 2), motif_zeros(fin % 60, 2));
+            r.cle_rv =
+                cle_rendez_vous(jour, motif_zeros(minute / 60, 2), motif_zeros(minute % 60, 2),
+                                motif_zeros(fin / 60, 2), motif_zeros(fin % 60, 2));
             r.texte_rv = QString::fromUtf8(s.nom) + QStringLiteral(" - ") +
                          QString::fromUtf8(clients[client - 2].nom);
             r.duree_rv = s.minutes;

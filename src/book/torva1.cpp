@@ -205,11 +205,10 @@ void Torva1::clic_page(int b, int x, int y) {
     const auto& t = table_pages;
     const bool dans_la_regle = x >= t[b + gauche] - 200 && x < t[b + gauche] + t[b + largeur] &&
                                y >= t[b + haut] && y < t[b + haut] + t[b + hauteur];
-    if (!dans_la_regle)
-        return;
+    if (!dans_la_regle) return;
     // Only the whole hour goes to the editor.
-    etat.heure_clic = static_cast<std::int16_t>(t[b + heure_premiere] +
-                                                (y - t[b + haut]) / t[b + hauteur_heure]);
+    etat.heure_clic =
+        static_cast<std::int16_t>(t[b + heure_premiere] + (y - t[b + haut]) / t[b + hauteur_heure]);
     Detarv editeur;
     ui::montre_modal(editeur);
     affiche_rv();
@@ -217,8 +216,7 @@ void Torva1::clic_page(int b, int x, int y) {
 }
 
 void Torva1::lrv_Click(int i) {
-    if (i <= 0 || std::size_t(i) >= num_rv_label.size())
-        return;
+    if (i <= 0 || std::size_t(i) >= num_rv_label.size()) return;
     etat.num_rv = num_rv_label[std::size_t(i)];
     Detarv editeur;
     ui::montre_modal(editeur);

@@ -8,7 +8,9 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QTimer>
 #include <QToolButton>
 
 namespace agenda {
@@ -42,6 +44,12 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     paged_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, false); });
     ui::place(*pageg_, page_gauche);
     ui::place(*paged_, page_droite);
+    pageg_->sur_clic = [this](int x, int y) {
+        if (l_.vue_visible == 0) apres_le_clic([this, x, y] { l_.pageg_MouseDown(x, y); });
+    };
+    paged_->sur_clic = [this](int x, int y) {
+        if (l_.vue_visible == 0) apres_le_clic([this, x, y] { l_.paged_MouseDown(x, y); });
+    };
     auto* picture1 = new QLabel(this);
     ui::place(*picture1, reliure);
     picture1->setPixmap(ui::icc::reliure(picture1->size()));
@@ -119,6 +127,12 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     });
 }
 
+void Torva1Vue::apres_le_clic(std::function<void()> handler) {
+    // The window a click opens runs after the click's events have been delivered, so that its
+    // modal loop does not start inside the toolkit's mouse handling.
+    QTimer::singleShot(0, this, [handler = std::move(handler)] { protege(handler); });
+}
+
 QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
                          Qt::Alignment a) {
     auto* l = new QLabel(parent);
@@ -158,8 +172,11 @@ void Torva1Vue::synchronise() {
         calend_->setSelectedDate(ui::jour_de(l_.calend));
     }
 
-    for (QLabel* e : etiquettes_)
-        delete e;
+    // Later, not now: this may run inside the click of one of these labels.
+    for (QLabel* e : etiquettes_) {
+        e->hide();
+        e->deleteLater();
+    }
     etiquettes_.clear();
     if (!jour) return;
     for (const bool gauche : {true, false}) {
@@ -175,10 +192,29 @@ void Torva1Vue::synchronise() {
                                  .arg(teinte(et.couleur), et.bordure
                                                               ? QStringLiteral("1px solid black")
                                                               : QStringLiteral("none")));
+            e->setCursor(Qt::PointingHandCursor);
+            e->setProperty("indice", i);
+            e->installEventFilter(this);
             e->show();
             etiquettes_.push_back(e);
         }
     }
+}
+
+bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
+    // A click on a label is the label's, not the page's beneath it.
+    if (!o->property("indice").isValid()) return QWidget::eventFilter(o, e);
+    if (e->type() == QEvent::MouseButtonPress) return true;
+    if (e->type() == QEvent::MouseButtonRelease) {
+        const auto* w = static_cast<QWidget*>(o);
+        if (w->rect().contains(static_cast<QMouseEvent*>(e)->position().toPoint())) {
+            const int i = o->property("indice").toInt();
+            const bool gauche = o->parent() == pageg_;
+            apres_le_clic([this, i, gauche] { gauche ? l_.lrv_Click(i) : l_.lrvd_Click(i); });
+        }
+        return true;
+    }
+    return QWidget::eventFilter(o, e);
 }
 
 void Torva1Vue::keyPressEvent(QKeyEvent* e) {

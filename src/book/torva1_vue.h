@@ -5,6 +5,7 @@
 #include "ui/geometrie.h"
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <QWidget>
 #include <vector>
@@ -29,8 +30,10 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
+    bool eventFilter(QObject* o, QEvent* e) override;
 
 private:
+    void apres_le_clic(std::function<void()> handler);
     QLabel* texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
                   Qt::Alignment a);
 

@@ -28,43 +28,62 @@ constexpr std::int32_t orange = 33023, blanc = 0xFFFFFF;
 
 // Face 0, as placed on its picture.
 constexpr std::array<ui::RectTwips, 12> heures_face0 = {{
-    {2190, 510, 615, 585},  {3060, 750, 615, 585},  {3600, 1350, 615, 585},
-    {3900, 2190, 615, 585}, {3600, 3090, 615, 585}, {3000, 3750, 615, 585},
-    {2190, 3990, 615, 585}, {1320, 3750, 615, 585}, {720, 3090, 615, 645},
-    {420, 2250, 645, 585},  {750, 1440, 675, 585},  {1350, 750, 675, 555},
+    {2190, 510, 615, 585},
+    {3060, 750, 615, 585},
+    {3600, 1350, 615, 585},
+    {3900, 2190, 615, 585},
+    {3600, 3090, 615, 585},
+    {3000, 3750, 615, 585},
+    {2190, 3990, 615, 585},
+    {1320, 3750, 615, 585},
+    {720, 3090, 615, 645},
+    {420, 2250, 645, 585},
+    {750, 1440, 675, 585},
+    {1350, 750, 675, 555},
 }};
 constexpr std::array<ui::RectTwips, 12> minutes_face0 = {{
-    {2220, 60, 525, 345},   {3390, 330, 465, 375},  {4290, 1170, 345, 435},
-    {4590, 2280, 405, 465}, {4320, 3450, 345, 465}, {3420, 4350, 465, 405},
-    {2280, 4620, 435, 375}, {1170, 4320, 345, 405}, {300, 3420, 375, 465},
-    {30, 2310, 375, 495},   {300, 1170, 405, 465},  {1110, 300, 465, 435},
+    {2220, 60, 525, 345},
+    {3390, 330, 465, 375},
+    {4290, 1170, 345, 435},
+    {4590, 2280, 405, 465},
+    {4320, 3450, 345, 465},
+    {3420, 4350, 465, 405},
+    {2280, 4620, 435, 375},
+    {1170, 4320, 345, 405},
+    {300, 3420, 375, 465},
+    {30, 2310, 375, 495},
+    {300, 1170, 405, 465},
+    {1110, 300, 465, 435},
 }};
 
 // The two ring radii of faces 1 to 3: each cell's centre on its ring, at 30 degrees a cell.
 struct Anneaux {
     int heures, minutes;
 };
-constexpr std::array<Anneaux, 4> anneaux = {{{1700, 2300}, {1500, 2060}, {1450, 2260}, {1720, 2320}}};
+constexpr std::array<Anneaux, 4> anneaux = {
+    {{1700, 2300}, {1500, 2060}, {1450, 2260}, {1720, 2320}}};
 
-std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& tailles, int rayon) {
+std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& tailles,
+                                           int rayon) {
     std::array<ui::RectTwips, 12> cellules{};
     for (int i = 0; i < 12; ++i) {
         const double a = i * pi / 6;
         const auto& t = tailles[std::size_t(i)];
-        cellules[std::size_t(i)] = {int(std::lround(centre_x + rayon * std::sin(a) - t.width / 2.0)),
-                                    int(std::lround(centre_y - rayon * std::cos(a) - t.height / 2.0)),
-                                    t.width, t.height};
+        cellules[std::size_t(i)] = {
+            int(std::lround(centre_x + rayon * std::sin(a) - t.width / 2.0)),
+            int(std::lround(centre_y - rayon * std::cos(a) - t.height / 2.0)), t.width, t.height};
     }
     return cellules;
 }
 
-QString nombre(double v) { return QString::number(v, 'g', 15); }
+QString nombre(double v) {
+    return QString::number(v, 'g', 15);
+}
 
 QString chiffres(const QString& texte) {
     QString r;
     for (const QChar c : texte)
-        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-            r += c;
+        if (c >= QLatin1Char('0') && c <= QLatin1Char('9')) r += c;
     return r;
 }
 
@@ -155,8 +174,7 @@ void Detarv::charge_rv() {
 
 void Detarv::sauve_rv() {
     auto& f = canal_fichier(canal::rv);
-    if (etat.num_rv == 0)
-        etat.num_rv = alloue_numero(f);
+    if (etat.num_rv == 0) etat.num_rv = alloue_numero(f);
     RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
     r.cle_rv = cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4);
     r.texte_rv = sans_blancs(Text1);
@@ -164,13 +182,13 @@ void Detarv::sauve_rv() {
     r.encadre_rv = Check1;
     r.code_jour = code_jour(etat.date_courante);
     r.duree_rv = std::int32_t(std::nearbyint(val(Label7)));
-    if (r.duree_rv < 0 || r.duree_rv > duree_maximum)
-        r.duree_rv = etat.duree_defaut;
+    if (r.duree_rv < 0 || r.duree_rv > duree_maximum) r.duree_rv = etat.duree_defaut;
     r.ref_sms = QString();
     r.num_client = std::int32_t(val(Label14));
     ref_sms_nouvelle.clear();
     if (!sans_blancs(Text2).isEmpty()) {
-        ref_sms_nouvelle = cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
+        ref_sms_nouvelle =
+            cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
         r.ref_sms = ref_sms_nouvelle;
     }
     ecrit_record(f, etat.num_rv + 1, r);
@@ -178,8 +196,7 @@ void Detarv::sauve_rv() {
 
 void Detarv::bt_valid_Click() {
     // An empty text saves nothing, not even over an existing appointment.
-    if (!sans_blancs(Text1).isEmpty())
-        sauve_rv();
+    if (!sans_blancs(Text1).isEmpty()) sauve_rv();
     etat.num_rv = 0;
     ecrit_rendez_vous(Label4, Combo1, Combo2);
     ferme();
@@ -190,8 +207,7 @@ void Detarv::bt_annul_Click() {
         ferme(); // a new appointment: the way out without saving
         return;
     }
-    if (demande(QStringLiteral("Confirmez l'effacement du rendez-vous ?"), 4) != 6)
-        return;
+    if (demande(QStringLiteral("Confirmez l'effacement du rendez-vous ?"), 4) != 6) return;
     auto& f = canal_fichier(canal::rv);
     RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
     r.cle_rv = QStringLiteral("----------");
@@ -208,16 +224,14 @@ void Detarv::bt_annull_Click() {
     Text1.clear();
     Label9 = QStringLiteral("NO");
     Label7 = nombre(etat.duree_defaut);
-    if (focus_texte)
-        focus_texte();
+    if (focus_texte) focus_texte();
     ui::cede();
 }
 
 void Detarv::bt_corr_Click() {
     Date97 choix;
     ui::montre_modal(choix);
-    if (!sans_blancs(etat.texte_retour).isEmpty())
-        Label4 = jour_en_lettres(etat.date_courante);
+    if (!sans_blancs(etat.texte_retour).isEmpty()) Label4 = jour_en_lettres(etat.date_courante);
 }
 
 void Detarv::affiche_client() {
@@ -231,8 +245,7 @@ void Detarv::affiche_client() {
               fin_de_ligne + QStringLiteral("Téléphone : --------------------------------------");
     Text2 = chiffres(rec_cli.texte(RecCli::off_telephone, RecCli::lg_telephone));
     Image2_visible = true;
-    if (sans_blancs(Text1).isEmpty())
-        Text1 = nom_client;
+    if (sans_blancs(Text1).isEmpty()) Text1 = nom_client;
 }
 
 void Detarv::Picture1_MouseDown(std::int32_t couleur) {
@@ -282,10 +295,8 @@ void Detarv::analyse_per() {
 
 void Detarv::sheur_Click(int i) {
     int v = Check2 * 12 + i;
-    if (v < etat.heure_debut)
-        v = etat.heure_debut;
-    if (v > etat.heure_fin)
-        v = etat.heure_fin;
+    if (v < etat.heure_debut) v = etat.heure_debut;
+    if (v > etat.heure_fin) v = etat.heure_fin;
     Combo1 = motif_zeros(v, 2);
     ajuste_heure();
     calcul_fin();
@@ -309,8 +320,7 @@ void Detarv::picture4_Click() {
 
 void Detarv::calcul_fin() {
     // The standard duration is also the shortest.
-    if (val(Label7) < etat.duree_defaut)
-        Label7 = nombre(etat.duree_defaut);
+    if (val(Label7) < etat.duree_defaut) Label7 = nombre(etat.duree_defaut);
     double h = val(Combo1);
     double m = val(Combo2) + val(Label7);
     while (m >= 60) {
@@ -330,8 +340,7 @@ void Detarv::g1_Click(int ligne) {
         Label9.clear();
         Label7.clear();
     }
-    if (ligne < 0 || ligne >= int(g1.size()) || g1[std::size_t(ligne)].index.isEmpty())
-        return;
+    if (ligne < 0 || ligne >= int(g1.size()) || g1[std::size_t(ligne)].index.isEmpty()) return;
     const LigneService& s = g1[std::size_t(ligne)];
     Text1 = sans_blancs(Text1) + QStringLiteral("\r\n") + sans_blancs(s.nom);
     Label7 = nombre(val(Label7) + val(s.minutes));
@@ -353,9 +362,10 @@ void Detarv::remplit_services() {
     g1.clear();
     for (std::int32_t i = 1; i <= etat.nb_services; ++i) {
         const RecArr s = lit_record<RecArr>(canal::arr, i + 1);
-        g1.push_back({sans_blancs(s.nom_arr),
-                      QString::number(std::int64_t(val(s.info_arr.left(3)))) + QStringLiteral(" mn  "),
-                      QString::number(i)});
+        g1.push_back(
+            {sans_blancs(s.nom_arr),
+             QString::number(std::int64_t(val(s.info_arr.left(3)))) + QStringLiteral(" mn  "),
+             QString::number(i)});
     }
     while (g1.size() < std::size_t(lignes_services))
         g1.push_back({});

@@ -6,11 +6,11 @@
 #include "ui/geometrie.h"
 #include "ui/modale.h"
 
-#include <QString>
-#include <QStringList>
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace agenda {
@@ -64,19 +64,19 @@ public:
     static QStringList minutes();
 
     // The controls.
-    QString Label4;                                      // the date in words
-    QString Label13 = QStringLiteral("Collaborateur");   // the collaborator
-    QString Text1;                                       // the appointment's text
-    std::int32_t Text1_couleur = couleur_fenetre;        // and its colour
-    QString Combo1, Combo2, Combo3, Combo4;              // start and end, hour and minute
-    int Check1 = 0;                                      // "Encadrement"
-    int Check2 = 0;                                      // afternoon
-    QString Label7;                                      // the duration in minutes
-    QString Label9 = QStringLiteral("NO");               // the standard duration still stands
-    QString Label14;                                     // the client number
-    QString Label15;                                     // the client panel
-    QString Text2;                                       // the SMS number
-    QString Label8;                                      // the SMS reference as loaded
+    QString Label4;                                    // the date in words
+    QString Label13 = QStringLiteral("Collaborateur"); // the collaborator
+    QString Text1;                                     // the appointment's text
+    std::int32_t Text1_couleur = couleur_fenetre;      // and its colour
+    QString Combo1, Combo2, Combo3, Combo4;            // start and end, hour and minute
+    int Check1 = 0;                                    // "Encadrement"
+    int Check2 = 0;                                    // afternoon
+    QString Label7;                                    // the duration in minutes
+    QString Label9 = QStringLiteral("NO");             // the standard duration still stands
+    QString Label14;                                   // the client number
+    QString Label15;                                   // the client panel
+    QString Text2;                                     // the SMS number
+    QString Label8;                                    // the SMS reference as loaded
     bool Image2_visible = false;
     QString ref_sms_chargee, ref_sms_nouvelle;
 

@@ -1,6 +1,8 @@
 #include "ui/icc.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainter>
@@ -189,6 +191,95 @@ QPixmap bouton(bool oui, QSize t) {
         g.drawLine(QPointF(cx - k * 0.7, cy - k * 0.7), QPointF(cx + k * 0.7, cy + k * 0.7));
         g.drawLine(QPointF(cx - k * 0.7, cy + k * 0.7), QPointF(cx + k * 0.7, cy - k * 0.7));
     }
+    return p;
+}
+
+} // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+namespace {
+
+struct StyleCadran {
+    QColor fond, bord, chiffres;
+    int anneau_heures, anneau_minutes; // twips, as the editor's cells are laid
+};
+
+const std::array<StyleCadran, 7> cadrans = {{
+    {QColor(0xfb, 0xf6, 0xe8), QColor(0xc9, 0xa4, 0x4c), QColor(0x4a, 0x2c, 0x1a), 1700, 2300},
+    {QColor(0x2b, 0x2b, 0x3a), QColor(0xc0, 0xc0, 0xc8), QColor(0xf0, 0xf0, 0xf0), 1500, 2060},
+    {QColor(0xe6, 0xf0, 0xfa), QColor(0x3a, 0x6e, 0xa5), QColor(0x1d, 0x3b, 0x5c), 1450, 2260},
+    {QColor(0xe9, 0xd3, 0xae), QColor(0x7a, 0x4a, 0x1e), QColor(0x4a, 0x2c, 0x1a), 1720, 2320},
+    {QColor(0xf4, 0xe4, 0xe4), QColor(0x9e, 0x1b, 0x1b), QColor(0x5a, 0x10, 0x10), 1700, 2300},
+    {QColor(0xe8, 0xf4, 0xe8), QColor(0x2e, 0x7d, 0x32), QColor(0x1b, 0x4d, 0x1e), 1700, 2300},
+    {QColor(0xff, 0xff, 0xff), QColor(0x60, 0x60, 0x60), QColor(0x20, 0x20, 0x20), 1700, 2300},
+}};
+
+} // namespace
+
+QPixmap horloge(int n, QSize t) {
+    QPixmap p = vierge(t);
+    const StyleCadran& st = cadrans[std::size_t(std::clamp(n, 0, int(cadrans.size()) - 1))];
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    g.setRenderHint(QPainter::TextAntialiasing);
+    g.scale(t.width() / 5030.0, t.height() / 5040.0);
+    const QPointF centre(2515, 2520);
+    QRadialGradient rg(centre, 2500);
+    rg.setColorAt(0, st.fond.lighter(104));
+    rg.setColorAt(0.9, st.fond);
+    rg.setColorAt(1, st.fond.darker(112));
+    g.setBrush(rg);
+    g.setPen(QPen(st.bord, 90));
+    g.drawEllipse(centre, 2460, 2460);
+    // The minute dots, where the minute cells lie.
+    g.setPen(Qt::NoPen);
+    for (int i = 0; i < 12; ++i) {
+        const double a = i * 3.1415926 / 6;
+        const QPointF c(centre.x() + st.anneau_minutes * std::sin(a),
+                        centre.y() - st.anneau_minutes * std::cos(a));
+        g.setBrush(QColor(0x90, 0x90, 0x90));
+        g.drawEllipse(c, 90, 90);
+    }
+    QFont f(QStringLiteral("DejaVu Serif"));
+    f.setBold(true);
+    f.setPixelSize(380);
+    g.setFont(f);
+    g.setPen(st.chiffres);
+    for (int i = 0; i < 12; ++i) {
+        const double a = i * 3.1415926 / 6;
+        const QPointF c(centre.x() + st.anneau_heures * std::sin(a),
+                        centre.y() - st.anneau_heures * std::cos(a));
+        g.drawText(QRectF(c.x() - 400, c.y() - 300, 800, 600), Qt::AlignCenter,
+                   QString::number(i == 0 ? 12 : i));
+    }
+    g.setBrush(st.bord);
+    g.setPen(Qt::NoPen);
+    g.drawEllipse(centre, 110, 110);
+    return p;
+}
+
+QPixmap palette(QSize t) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    // Soft label colours first, then stronger ones; black last, which the editor refuses.
+    const std::array<QColor, 24> teintes = {
+        QColor(0xff, 0xc0, 0xc0), QColor(0xff, 0xe0, 0xc0), QColor(0xff, 0xff, 0xc0),
+        QColor(0xc0, 0xff, 0xc0), QColor(0xc0, 0xff, 0xff), QColor(0xc0, 0xe0, 0xff),
+        QColor(0xe0, 0xc0, 0xff), QColor(0xff, 0xc0, 0xff), QColor(0xe0, 0xe0, 0xe0),
+        QColor(0xff, 0xff, 0xff), QColor(0xf0, 0xe6, 0xd2), QColor(0xd2, 0xf0, 0xe6),
+        QColor(0xff, 0x80, 0x80), QColor(0xff, 0xb0, 0x60), QColor(0xff, 0xff, 0x60),
+        QColor(0x80, 0xff, 0x80), QColor(0x60, 0xe0, 0xe0), QColor(0x80, 0xb0, 0xff),
+        QColor(0xb0, 0x80, 0xff), QColor(0xff, 0x80, 0xff), QColor(0xa0, 0xa0, 0xa0),
+        QColor(0xc8, 0xa0, 0x78), QColor(0x9e, 0x1b, 0x1b), QColor(0, 0, 0),
+    };
+    const int n = int(teintes.size());
+    for (int i = 0; i < n; ++i) {
+        const int x1 = t.width() * i / n, x2 = t.width() * (i + 1) / n;
+        g.fillRect(QRect(x1, 0, x2 - x1, t.height()), teintes[std::size_t(i)]);
+    }
+    g.setPen(QPen(QColor(0x5a, 0x3a, 0x22), 1));
+    g.drawRect(QRect(0, 0, t.width() - 1, t.height() - 1));
     return p;
 }
 

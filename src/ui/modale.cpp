@@ -39,6 +39,10 @@ void enregistre_vue(const QString& nom, Presentation vue) {
     vues().insert(nom, std::move(vue));
 }
 
+bool vue_enregistree(const QString& nom) {
+    return vues().contains(nom);
+}
+
 void scenario(const QString& nom, Presentation script) {
     if (script)
         scenarios().insert(nom, std::move(script));

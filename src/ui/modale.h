@@ -32,5 +32,6 @@ void montre_modal(FenetreModale& fenetre);
 using Presentation = std::function<void(FenetreModale&)>;
 void enregistre_vue(const QString& nom, Presentation vue);
 void scenario(const QString& nom, Presentation script); // an empty script removes it
+bool vue_enregistree(const QString& nom);
 
 } // namespace agenda::ui

@@ -43,7 +43,7 @@ void Surface::efface() {
 }
 
 void Surface::ligne(int x1, int y1, int x2, int y2, std::int32_t c) {
-    traits_.push_back({x1, y1, x2, y2, c, pointille_});
+    traits_.push_back({x1, y1, x2, y2, c, pointille_, epaisseur_});
 }
 
 void Surface::ecrit(int x, int y, const QString& texte) {

@@ -21,6 +21,7 @@ public:
         int x1, y1, x2, y2;
         std::int32_t couleur;
         bool pointille;
+        int epaisseur; // twips; 0 is the thinnest line
     };
     struct Texte {
         int x, y; // top-left
@@ -35,6 +36,7 @@ public:
     void taille_police(double points) { taille_ = points; }
     void couleur_texte(std::int32_t c) { couleur_texte_ = c; }
     void style_pointille(bool oui) { pointille_ = oui; }
+    void epaisseur(int twips) { epaisseur_ = twips; }
     void ligne(int x1, int y1, int x2, int y2, std::int32_t couleur);
     void ecrit(int x, int y, const QString& texte);
     // Width and height of a text in the current font, in twips.
@@ -49,6 +51,7 @@ private:
     double taille_ = 8;
     std::int32_t couleur_texte_ = 0;
     bool pointille_ = false;
+    int epaisseur_ = 0;
     std::vector<Trait> traits_;
     std::vector<Texte> textes_;
 };

@@ -7,12 +7,24 @@
 #include <cmath>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 
 namespace agenda::ui {
 
 VueSurface::VueSurface(QWidget* parent, Fond fond) : QWidget(parent), fond_(std::move(fond)) {}
+
+void VueSurface::mousePressEvent(QMouseEvent* e) {
+    e->accept();
+}
+
+void VueSurface::mouseReleaseEvent(QMouseEvent* e) {
+    // The click is complete when the button comes up over the surface, so that a window it
+    // opens does not take the release of this click.
+    if (sur_clic && rect().contains(e->position().toPoint()))
+        sur_clic(twips(int(e->position().x())), twips(int(e->position().y())));
+}
 
 void VueSurface::montre(const Surface* surface) {
     surface_ = surface;
@@ -34,8 +46,9 @@ void VueSurface::paintEvent(QPaintEvent*) {
     g.setRenderHint(QPainter::TextAntialiasing);
     g.scale(px_par_twip(), px_par_twip());
     for (const auto& t : surface_->traits()) {
-        QPen pen(couleur(t.couleur), 0);
+        QPen pen(couleur(t.couleur), t.epaisseur);
         pen.setStyle(t.pointille ? Qt::DotLine : Qt::SolidLine);
+        pen.setCapStyle(Qt::RoundCap);
         g.setPen(pen);
         g.drawLine(t.x1, t.y1, t.x2, t.y2);
     }

@@ -16,9 +16,13 @@ public:
     using Fond = std::function<QPixmap(QSize)>;
     VueSurface(QWidget* parent, Fond fond);
     void montre(const Surface* surface);
+    // A click of any button, in twips of the surface.
+    std::function<void(int x, int y)> sur_clic;
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
     Fond fond_;

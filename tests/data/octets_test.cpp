@@ -88,7 +88,10 @@ TEST(SansBlancs, NOteQueLesBlancs) {
     struct Cas {
         const char *texte, *attendu;
     };
-    for (const Cas c : {Cas{"  a b  ", "a b"}, {"\r\nCoupe ", "\r\nCoupe"}, {"   ", ""},
-                        {"\tx\t", "\tx\t"}, {"", ""}})
+    for (const Cas c : {Cas{"  a b  ", "a b"},
+                        {"\r\nCoupe ", "\r\nCoupe"},
+                        {"   ", ""},
+                        {"\tx\t", "\tx\t"},
+                        {"", ""}})
         EXPECT_EQ(sans_blancs(QString::fromLatin1(c.texte)), QString::fromLatin1(c.attendu));
 }

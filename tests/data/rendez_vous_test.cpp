@@ -126,8 +126,9 @@ TEST_F(Rendezvous, PlusDeDeuxCentsRendezVousDansLaJournee) {
 
 TEST_F(Rendezvous, CleEtCodeDuJour) {
     const Date d = ui::date_de(QDate(2004, 3, 3));
-    EXPECT_EQ(cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("30"),
-                              QStringLiteral("10"), QStringLiteral("15")), QStringLiteral("040303:09H30:10H15  "));
+    EXPECT_EQ(cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("30"), QStringLiteral("10"),
+                              QStringLiteral("15")),
+              QStringLiteral("040303:09H30:10H15  "));
     EXPECT_EQ(code_jour(d), 3 + 31 * 3);
     EXPECT_EQ(motif_jour(ui::date_de(QDate(2010, 12, 31))), QStringLiteral("101231"));
 }

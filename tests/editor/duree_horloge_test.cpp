@@ -43,17 +43,19 @@ TEST_F(Durees, ExemplesDeDurees) {
         const char* fin;
     };
     const std::vector<Pas> pas = {
-        {[](Detarv& x) { x.g2_Click(0, 2); }, "35", "09:35"},                   // +5
-        {[](Detarv& x) { x.g2_Click(0, 0); }, "30", "09:30"},                   // -10, floored
-        {[](Detarv& x) { x.g1_Click(0); }, "30", "09:30"},                      // 15 up to the floor
-        {[](Detarv& x) { x.g1_Click(1); }, "50", "09:50"},                      // + 20
-        {[](Detarv& x) { x.g2_Click(3, 1); }, "75", "10:15"},                   // 1h15
-        {[](Detarv& x) { x.g2_Click(1, 3); }, "30", "09:30"},                   // 30
+        {[](Detarv& x) { x.g2_Click(0, 2); }, "35", "09:35"}, // +5
+        {[](Detarv& x) { x.g2_Click(0, 0); }, "30", "09:30"}, // -10, floored
+        {[](Detarv& x) { x.g1_Click(0); }, "30", "09:30"},    // 15 up to the floor
+        {[](Detarv& x) { x.g1_Click(1); }, "50", "09:50"},    // + 20
+        {[](Detarv& x) { x.g2_Click(3, 1); }, "75", "10:15"}, // 1h15
+        {[](Detarv& x) { x.g2_Click(1, 3); }, "30", "09:30"}, // 30
         {[](Detarv& x) { x.Combo2 = QStringLiteral("45"), x.calcul_fin(); }, "30", "10:15"},
         {[](Detarv& x) { x.Label7 = QStringLiteral("5"), x.Label7_LostFocus(); }, "30", "10:15"},
         {[](Detarv& x) { x.Label7 = QStringLiteral("45"), x.Label7_LostFocus(); }, "45", "10:30"},
-        {[](Detarv& x) { x.Combo1 = QStringLiteral("23"), x.Combo2 = QStringLiteral("00"),
-                         x.g2_Click(3, 3); }, "120", "25:00"},                  // no day change
+        {[](Detarv& x) {
+             x.Combo1 = QStringLiteral("23"), x.Combo2 = QStringLiteral("00"), x.g2_Click(3, 3);
+         },
+         "120", "25:00"}, // no day change
     };
     for (std::size_t i = 0; i < pas.size(); ++i) {
         pas[i].action(d);
@@ -88,8 +90,11 @@ TEST_F(Durees, AiguillesAuxAnglesDeLHeure) {
         const char *heure, *minute;
         double angle_h, angle_m;
     };
-    for (const Cas c : {Cas{"00", "00", 0, 0}, {"12", "00", 0, 0}, {"15", "30", 105, 180},
-                        {"09", "07", 273.5, 42}, {"06", "45", 202.5, 270}}) {
+    for (const Cas c : {Cas{"00", "00", 0, 0},
+                        {"12", "00", 0, 0},
+                        {"15", "30", 105, 180},
+                        {"09", "07", 273.5, 42},
+                        {"06", "45", 202.5, 270}}) {
         d.Combo1 = QString::fromLatin1(c.heure);
         d.Combo2 = QString::fromLatin1(c.minute);
         d.ajuste_heure();
@@ -106,7 +111,8 @@ TEST_F(Durees, LesHeuresDuCadranRestentDansLesHeuresDuMagasin) {
         int cellule;
         const char* heure;
     };
-    for (const Cas c : {Cas{0, 6, "08"}, {1, 10, "19"}, {1, 2, "14"}, {0, 11, "11"}, {1, 0, "12"}}) {
+    for (const Cas c :
+         {Cas{0, 6, "08"}, {1, 10, "19"}, {1, 2, "14"}, {0, 11, "11"}, {1, 0, "12"}}) {
         c.demi_journee ? d.picture4_Click() : d.Picture3_Click();
         d.sheur_Click(c.cellule);
         EXPECT_EQ(d.Combo1, QString::fromLatin1(c.heure)) << c.cellule;

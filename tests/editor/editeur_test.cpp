@@ -28,7 +28,9 @@ Gabarit vierge() {
 }
 
 // Record 1 as the first allotment leaves it: read past the end, so its texts are blanks.
-QByteArray entete(std::int32_t dernier) { return vierge().i32(466, dernier).octets(); }
+QByteArray entete(std::int32_t dernier) {
+    return vierge().i32(466, dernier).octets();
+}
 
 class Editeur : public agenda::test::Livre {
 protected:
@@ -119,9 +121,11 @@ TEST_F(Editeur, UnNouveauRendezVousOctetParOctet) {
     ASSERT_EQ(livre->lrvd.size(), 1u);
     EXPECT_EQ(livre->lrvd.at(1).top, 1100 + 2 * 1300);
     EXPECT_EQ(livre->lrvd.at(1).height, 650);
-    EXPECT_EQ(ui::couleur(livre->lrvd.at(1).couleur), QGuiApplication::palette().color(QPalette::Base));
+    EXPECT_EQ(ui::couleur(livre->lrvd.at(1).couleur),
+              QGuiApplication::palette().color(QPalette::Base));
     // The slip carries its date and time.
-    EXPECT_EQ(contenu(QStringLiteral("wrv181ff.wdo")).mid(8 * 128 + 23, 11), QByteArray("\xE0 : 14 H 00"));
+    EXPECT_EQ(contenu(QStringLiteral("wrv181ff.wdo")).mid(8 * 128 + 23, 11),
+              QByteArray("\xE0 : 14 H 00"));
 }
 
 TEST_F(Editeur, UnServiceDonneSaDuree) {
@@ -217,7 +221,8 @@ TEST_F(Editeur, DureeHorsLimitesRemplaceeParLaDureeStandard) {
 }
 
 TEST_F(Editeur, UneDureeNulleSeRecalculeAuChargement) {
-    ecrit(rv, entete(1) + vierge().texte(0, 20, "040303:09H00:09H45").texte(510, 2, "\r\n").octets());
+    ecrit(rv,
+          entete(1) + vierge().texte(0, 20, "040303:09H00:09H45").texte(510, 2, "\r\n").octets());
     etat.num_rv = 1;
     Detarv d;
     d.charge_rv();
@@ -227,14 +232,21 @@ TEST_F(Editeur, UneDureeNulleSeRecalculeAuChargement) {
 }
 
 TEST_F(Editeur, LeClientDuRendezVous) {
-    ecrit(rv, entete(2) +
-                  vierge().texte(0, 20, "040303:09H00:09H30").i32(438, 2).texte(510, 2, "\r\n").octets() +
-                  vierge().texte(0, 20, "040303:10H00:10H30").texte(20, 402, "Couleur").i32(438, 2)
-                      .texte(510, 2, "\r\n").octets());
+    ecrit(
+        rv,
+        entete(2) +
+            vierge().texte(0, 20, "040303:09H00:09H30").i32(438, 2).texte(510, 2, "\r\n").octets() +
+            vierge()
+                .texte(0, 20, "040303:10H00:10H30")
+                .texte(20, 402, "Couleur")
+                .i32(438, 2)
+                .texte(510, 2, "\r\n")
+                .octets());
     livre->sel_onglet(0);
     editeur([](Detarv& d) {
-        EXPECT_EQ(d.Label15, QStringLiteral("DURAND Marie\r\n3 rue de la Roquette\r\n75011 Paris\r\n"
-                                            "Téléphone : --------------------------------------"));
+        EXPECT_EQ(d.Label15,
+                  QStringLiteral("DURAND Marie\r\n3 rue de la Roquette\r\n75011 Paris\r\n"
+                                 "Téléphone : --------------------------------------"));
         EXPECT_EQ(d.Text2, QStringLiteral("0102030405"));
         EXPECT_TRUE(d.Image2_visible);
         EXPECT_EQ(d.Text1, QStringLiteral("DURAND Marie")); // an empty text takes the name
@@ -315,9 +327,15 @@ TEST_F(Editeur, LesClicsDePageEtLeursBornes) {
         int x, y;
         int heure; // -1: refused
     };
-    for (const Cas c : {Cas{true, 2000, 3700, 7}, {true, 2000, 4999, 7}, {true, 2000, 5000, 8},
-                        {true, 600, 4000, 7}, {true, 599, 4000, -1}, {true, 6200, 4000, -1},
-                        {true, 2000, 10200, -1}, {true, 2000, 3699, -1}, {false, 2000, 1100, 12},
+    for (const Cas c : {Cas{true, 2000, 3700, 7},
+                        {true, 2000, 4999, 7},
+                        {true, 2000, 5000, 8},
+                        {true, 600, 4000, 7},
+                        {true, 599, 4000, -1},
+                        {true, 6200, 4000, -1},
+                        {true, 2000, 10200, -1},
+                        {true, 2000, 3699, -1},
+                        {false, 2000, 1100, 12},
                         {false, 6199, 10199, 18}}) {
         heures.clear();
         c.gauche ? livre->pageg_MouseDown(c.x, c.y) : livre->paged_MouseDown(c.x, c.y);

@@ -113,3 +113,9 @@ TEST_F(BoiteInvite, LaVraieBoiteSansImageDecorative) {
     EXPECT_TRUE(vue);
     EXPECT_EQ(etat.mini_texte, QStringLiteral("Du pont"));
 }
+
+TEST(Vues, ChaqueFenetreModaleASesWidgets) {
+    enregistre_vues();
+    for (const char* nom : {"mini_97", "date_97", "detarv"})
+        EXPECT_TRUE(ui::vue_enregistree(QString::fromLatin1(nom))) << nom;
+}

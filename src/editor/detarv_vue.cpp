@@ -241,6 +241,7 @@ private:
         auto* c = new QComboBox(this);
         ui::place(*c, r);
         c->setEditable(true);
+        c->setInsertPolicy(QComboBox::NoInsert); // typed times do not join the lists
         c->addItems(liste);
         c->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
         connect(c, &QComboBox::editTextChanged, this,

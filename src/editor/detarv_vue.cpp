@@ -115,13 +115,7 @@ public:
         text2_->setFont(police(10));
         connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
 
-        g1_ = new QTableWidget(int(l_.g1.size()), 2, this);
-        ui::place(*g1_, r_g1);
-        g1_->horizontalHeader()->hide();
-        g1_->verticalHeader()->hide();
-        g1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        g1_->setSelectionMode(QAbstractItemView::NoSelection);
-        g1_->setFont(police(9));
+        g1_ = grille(r_g1, int(l_.g1.size()), 2);
         g1_->setColumnWidth(0, ui::px(3000));
         g1_->setColumnWidth(1, ui::px(1100));
         for (int i = 0; i < int(l_.g1.size()); ++i) {
@@ -132,13 +126,7 @@ public:
         connect(g1_, &QTableWidget::cellClicked, this,
                 [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });
 
-        g2_ = new QTableWidget(4, 4, this);
-        ui::place(*g2_, r_g2);
-        g2_->horizontalHeader()->hide();
-        g2_->verticalHeader()->hide();
-        g2_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        g2_->setSelectionMode(QAbstractItemView::NoSelection);
-        g2_->setFont(police(9));
+        g2_ = grille(r_g2, 4, 4);
         for (int r = 0; r < 4; ++r) {
             g2_->setRowHeight(r, ui::px(410));
             for (int c = 0; c < 4; ++c) {
@@ -236,6 +224,18 @@ protected:
     void reject() override {}
 
 private:
+    // A grid of cells to click, without headers, editing or selection.
+    QTableWidget* grille(const RectTwips& r, int lignes, int colonnes) {
+        auto* g = new QTableWidget(lignes, colonnes, this);
+        ui::place(*g, r);
+        g->horizontalHeader()->hide();
+        g->verticalHeader()->hide();
+        g->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        g->setSelectionMode(QAbstractItemView::NoSelection);
+        g->setFont(ui::police(QStringLiteral("DejaVu Sans"), 9));
+        return g;
+    }
+
     QComboBox* combo(const RectTwips& r, const QStringList& liste, QString Detarv::*champ,
                      std::function<void()> clic) {
         auto* c = new QComboBox(this);

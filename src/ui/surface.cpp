@@ -54,8 +54,4 @@ int Surface::largeur_texte(const QString& texte) const {
     return int(std::lround(QFontMetricsF(police_twips(police_, taille_)).horizontalAdvance(texte)));
 }
 
-int Surface::hauteur_texte(const QString&) const {
-    return int(std::lround(QFontMetricsF(police_twips(police_, taille_)).height()));
-}
-
 } // namespace agenda::ui

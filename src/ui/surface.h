@@ -39,9 +39,8 @@ public:
     void epaisseur(int twips) { epaisseur_ = twips; }
     void ligne(int x1, int y1, int x2, int y2, std::int32_t couleur);
     void ecrit(int x, int y, const QString& texte);
-    // Width and height of a text in the current font, in twips.
+    // Width of a text in the current font, in twips.
     int largeur_texte(const QString& texte) const;
-    int hauteur_texte(const QString& texte) const;
 
     const std::vector<Trait>& traits() const { return traits_; }
     const std::vector<Texte>& textes() const { return textes_; }

@@ -14,11 +14,10 @@ void Livre::TearDown() {
 }
 
 void Livre::rendez_vous(const QString& fichier, const std::vector<const char*>& cles) {
-    QByteArray octets = Gabarit(512).zeros(422, 48).i32(466, int(cles.size())).octets();
+    QByteArray octets = rv_entete(int(cles.size()));
     int couleur = 0x101010;
     for (const char* cle : cles) {
-        octets += Gabarit(512)
-                      .zeros(422, 48)
+        octets += rv_vierge()
                       .texte(0, 20, cle)
                       .texte(20, 402, "  Coupe  ")
                       .i32(446, couleur++)

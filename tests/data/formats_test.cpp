@@ -8,6 +8,7 @@
 
 using namespace agenda;
 using agenda::test::Gabarit;
+using agenda::test::rv_vierge;
 
 namespace {
 
@@ -26,10 +27,6 @@ protected:
         ecrit_record(f, r, rec);
     }
 };
-
-Gabarit rv_vierge() {
-    return std::move(Gabarit(512).zeros(422, 48));
-}
 
 } // namespace
 

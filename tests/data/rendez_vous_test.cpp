@@ -6,23 +6,15 @@
 
 using namespace agenda;
 using agenda::test::Gabarit;
+using agenda::test::rv_entete;
+using agenda::test::rv_vierge;
 
 namespace {
 
 const QString fichier = QStringLiteral("tf_r0000.wdo");
 
-Gabarit vierge() {
-    Gabarit g(512);
-    g.zeros(422, 48);
-    return g;
-}
-
-QByteArray entete(std::int32_t dernier) {
-    return vierge().i32(466, dernier).octets();
-}
-
 QByteArray rv(const char* cle, std::int32_t couleur = 0xFFFFFF, std::int32_t encadre = 0) {
-    return vierge()
+    return rv_vierge()
         .texte(0, 20, cle)
         .texte(20, 402, "texte")
         .i32(446, couleur)
@@ -47,7 +39,7 @@ TEST_F(Rendezvous, NumeroAlloueEnAjoutant) {
     EXPECT_EQ(alloue_numero(f()), 1);
     // Record 1 was read past the end: blank texts, so its last two bytes are blanks.
     const QByteArray apres_un =
-        vierge().i32(466, 1).octets() + vierge().texte(510, 2, "\r\n").octets();
+        rv_vierge().i32(466, 1).octets() + rv_vierge().texte(510, 2, "\r\n").octets();
     EXPECT_EQ(contenu(fichier), apres_un);
     EXPECT_EQ(alloue_numero(f()), 2);
     EXPECT_EQ(contenu(fichier).size(), 3 * 512);
@@ -61,7 +53,7 @@ TEST_F(Rendezvous, EnTeteRepareParLaLongueurSeulementSIlRetarde) {
         std::int32_t attendu;
     };
     for (const Cas c : {Cas{5, 2, 4}, {3, 9, 9}, {4, 3, 3}, {1, 0, 0}}) {
-        QByteArray octets = entete(c.dernier);
+        QByteArray octets = rv_entete(c.dernier);
         for (int i = 1; i < c.records; ++i)
             octets += rv("----------");
         ecrit(fichier, octets);
@@ -69,7 +61,7 @@ TEST_F(Rendezvous, EnTeteRepareParLaLongueurSeulementSIlRetarde) {
         charge_journee();
         const QByteArray apres = contenu(fichier);
         EXPECT_EQ(apres.size(), c.records * 512);
-        EXPECT_EQ(apres.mid(466, 4), entete(c.attendu).mid(466, 4))
+        EXPECT_EQ(apres.mid(466, 4), rv_entete(c.attendu).mid(466, 4))
             << c.records << " " << c.dernier;
         EXPECT_EQ(apres.mid(512), octets.mid(512)); // nothing else written
     }
@@ -83,15 +75,15 @@ TEST_F(Rendezvous, FichierVideDonneUneJourneeVide) {
 }
 
 TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
-    ecrit(fichier, entete(9) + rv("040303:14H00:15H00", 0xC0C0FF, 1) // 1
-                       + rv("----------")                            // 2: deleted in the editor
-                       + rv("--------------------")                  // 3: deleted from the list
-                       + rv("")                                      // 4: transferred
-                       + rv("040304:09H00:09H30")                    // 5: another day
-                       + rv("0403xx:09H00:09H30")                    // 6: damaged date
-                       + rv("040303:09H30:10H15", 12632256)          // 7
-                       + rv("040303garbage")                         // 8: matched on six characters
-                       + rv("040303:09H30:10H15"));                  // 9: same key again
+    ecrit(fichier, rv_entete(9) + rv("040303:14H00:15H00", 0xC0C0FF, 1) // 1
+                       + rv("----------")                               // 2: deleted in the editor
+                       + rv("--------------------")                     // 3: deleted from the list
+                       + rv("")                                         // 4: transferred
+                       + rv("040304:09H00:09H30")                       // 5: another day
+                       + rv("0403xx:09H00:09H30")                       // 6: damaged date
+                       + rv("040303:09H30:10H15", 12632256)             // 7
+                       + rv("040303garbage")        // 8: matched on six characters
+                       + rv("040303:09H30:10H15")); // 9: same key again
     ouvre_rv();
     charge_journee();
     ASSERT_EQ(etat.nb_jour(), 4);
@@ -106,7 +98,7 @@ TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
 
 TEST_F(Rendezvous, UnFichierCourtNeFaitPasTomberLeBalayage) {
     // The header says 5, but the file ends in the middle of record 3.
-    ecrit(fichier, entete(5) + rv("040303:08H00:09H00") + rv("040303:10H00:11H00").left(100));
+    ecrit(fichier, rv_entete(5) + rv("040303:08H00:09H00") + rv("040303:10H00:11H00").left(100));
     ouvre_rv();
     charge_journee();
     ASSERT_EQ(etat.nb_jour(), 2);
@@ -114,7 +106,7 @@ TEST_F(Rendezvous, UnFichierCourtNeFaitPasTomberLeBalayage) {
 }
 
 TEST_F(Rendezvous, PlusDeDeuxCentsRendezVousDansLaJournee) {
-    QByteArray octets = entete(250);
+    QByteArray octets = rv_entete(250);
     for (int i = 0; i < 250; ++i)
         octets += rv("040303:10H00:11H00");
     ecrit(fichier, octets);
@@ -136,7 +128,7 @@ TEST_F(Rendezvous, CleEtCodeDuJour) {
 TEST_F(Rendezvous, RechercheDeNoteParCle) {
     etat.num_collab = 7;
     ecrit(QStringLiteral("tf_a0007.wdo"),
-          entete(4) + rv("SE:040301") + rv("JO:040303") + rv("JO:040303") + rv("JO:040304"));
+          rv_entete(4) + rv("SE:040301") + rv("JO:040303") + rv("JO:040303") + rv("JO:040304"));
     ouvre_notes();
     EXPECT_EQ(cherche_note(QStringLiteral("JO:040303")), 2);
     EXPECT_EQ(cherche_note(QStringLiteral("SE:040301")), 1);

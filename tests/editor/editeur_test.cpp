@@ -16,21 +16,12 @@
 
 using namespace agenda;
 using agenda::test::Gabarit;
+using agenda::test::rv_entete;
+using agenda::test::rv_vierge;
 
 namespace {
 
 const QString rv = QStringLiteral("tf_r0001.wdo");
-
-Gabarit vierge() {
-    Gabarit g(512);
-    g.zeros(422, 48);
-    return g;
-}
-
-// Record 1 as the first allotment leaves it: read past the end, so its texts are blanks.
-QByteArray entete(std::int32_t dernier) {
-    return vierge().i32(466, dernier).octets();
-}
 
 class Editeur : public agenda::test::Livre {
 protected:
@@ -108,14 +99,14 @@ TEST_F(Editeur, UnNouveauRendezVousOctetParOctet) {
     });
     clic_14h();
     EXPECT_EQ(etat.num_rv, 0);
-    const QByteArray attendu = entete(1) + vierge()
-                                               .texte(0, 20, "040303:14H00:14H30")
-                                               .texte(20, 402, "Mme Durand")
-                                               .i32(434, 30)
-                                               .i32(442, 3 + 31 * 3)
-                                               .i32(446, std::int32_t(0x80000005u))
-                                               .texte(510, 2, "\r\n")
-                                               .octets();
+    const QByteArray attendu = rv_entete(1) + rv_vierge()
+                                                  .texte(0, 20, "040303:14H00:14H30")
+                                                  .texte(20, 402, "Mme Durand")
+                                                  .i32(434, 30)
+                                                  .i32(442, 3 + 31 * 3)
+                                                  .i32(446, std::int32_t(0x80000005u))
+                                                  .texte(510, 2, "\r\n")
+                                                  .octets();
     EXPECT_EQ(contenu(rv), attendu);
     // The book shows it at once, drawn in the system's window colour.
     ASSERT_EQ(livre->lrvd.size(), 1u);
@@ -221,8 +212,8 @@ TEST_F(Editeur, DureeHorsLimitesRemplaceeParLaDureeStandard) {
 }
 
 TEST_F(Editeur, UneDureeNulleSeRecalculeAuChargement) {
-    ecrit(rv,
-          entete(1) + vierge().texte(0, 20, "040303:09H00:09H45").texte(510, 2, "\r\n").octets());
+    ecrit(rv, rv_entete(1) +
+                  rv_vierge().texte(0, 20, "040303:09H00:09H45").texte(510, 2, "\r\n").octets());
     etat.num_rv = 1;
     Detarv d;
     d.charge_rv();
@@ -232,16 +223,18 @@ TEST_F(Editeur, UneDureeNulleSeRecalculeAuChargement) {
 }
 
 TEST_F(Editeur, LeClientDuRendezVous) {
-    ecrit(
-        rv,
-        entete(2) +
-            vierge().texte(0, 20, "040303:09H00:09H30").i32(438, 2).texte(510, 2, "\r\n").octets() +
-            vierge()
-                .texte(0, 20, "040303:10H00:10H30")
-                .texte(20, 402, "Couleur")
-                .i32(438, 2)
-                .texte(510, 2, "\r\n")
-                .octets());
+    ecrit(rv, rv_entete(2) +
+                  rv_vierge()
+                      .texte(0, 20, "040303:09H00:09H30")
+                      .i32(438, 2)
+                      .texte(510, 2, "\r\n")
+                      .octets() +
+                  rv_vierge()
+                      .texte(0, 20, "040303:10H00:10H30")
+                      .texte(20, 402, "Couleur")
+                      .i32(438, 2)
+                      .texte(510, 2, "\r\n")
+                      .octets());
     livre->sel_onglet(0);
     editeur([](Detarv& d) {
         EXPECT_EQ(d.Label15,

@@ -39,6 +39,16 @@ QByteArray Gabarit::octets() const {
     return QByteArray(reinterpret_cast<const char*>(octets_.data()), qsizetype(octets_.size()));
 }
 
+Gabarit rv_vierge() {
+    Gabarit g(512);
+    g.zeros(422, 48);
+    return g;
+}
+
+QByteArray rv_entete(std::int32_t dernier) {
+    return rv_vierge().i32(466, dernier).octets();
+}
+
 void DossierDonnees::SetUp() {
     ASSERT_TRUE(dossier_.isValid());
     ancien_ = QDir::currentPath();

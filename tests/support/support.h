@@ -41,6 +41,11 @@ private:
     std::vector<std::uint8_t> octets_;
 };
 
+// An appointment record with blank texts and zero numbers (422 to 469), as laid out on disk.
+Gabarit rv_vierge();
+// Record 1 of an appointment file whose count is `dernier`.
+QByteArray rv_entete(std::int32_t dernier);
+
 class DossierDonnees : public ::testing::Test {
 protected:
     void SetUp() override;

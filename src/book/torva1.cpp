@@ -70,10 +70,13 @@ std::int16_t champ_heure(const QString& valeur, int debut, int longueur) {
 Torva1::Torva1() {
     for (QTimer* t : {&Timer1, &Timer2, &Timer3})
         t->setSingleShot(true); // each timer stops itself before acting
-    connect(&Timer1, &QTimer::timeout, this, [this] { charge(); });
+    // Timers are handlers too: an error that ends the program ends it here.
+    connect(&Timer1, &QTimer::timeout, this, [this] { protege([this] { charge(); }); });
     connect(&Timer2, &QTimer::timeout, this, [this] {
-        sel_click_d(3);
-        sel_onglet(3);
+        protege([this] {
+            sel_click_d(3);
+            sel_onglet(3);
+        });
     });
     connect(&Timer3, &QTimer::timeout, this, [this] { emit au_premier_plan(); });
 }

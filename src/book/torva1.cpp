@@ -161,7 +161,6 @@ void Torva1::sel_click_d(int n) {
 void Torva1::sel_onglet(int n) {
     if (n == 5 || n == 11) appel_menu();
     vue_visible = n >= 0 && n < nb_vues ? n : -1;
-    emit modifie();
     ui::cede();
     switch (n) {
     case 0:

@@ -34,7 +34,6 @@ inline constexpr int base_gauche = 0, base_droite = 30;
 class Torva1 : public QObject {
     Q_OBJECT
 public:
-    static constexpr int largeur_livre = 15360, hauteur_livre = 11070; // in twips
     static constexpr int nb_onglets = 12;
     static constexpr int nb_vues = 11; // page slots pageg(0..10), paged(0..10)
 

@@ -33,7 +33,7 @@ QString teinte(std::int32_t bbggrr) {
 
 Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     setWindowTitle(QStringLiteral("Agenda"));
-    setFixedSize(ui::px(Torva1::largeur_livre), ui::px(Torva1::hauteur_livre));
+    setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
     setAutoFillBackground(false);
 
     auto* fond = new QLabel(this);
@@ -149,9 +149,11 @@ void Torva1Vue::synchronise() {
             QPushButton* b = (gauche ? ongletg_ : ongletd_)[std::size_t(i)];
             b->setVisible(gauche ? l_.ongletg_visible[std::size_t(i)]
                                  : l_.ongletd_visible[std::size_t(i)]);
-            b->setStyleSheet(QStringLiteral("QPushButton { background: %1; border: 1px solid "
-                                            "#5a3a22; border-radius: 6px; }")
-                                 .arg(teinte(l_.couleurs_onglet[std::size_t(i)])));
+            // The colours change only with the load: a style sheet is parsed only when it does.
+            const QString style = QStringLiteral("QPushButton { background: %1; border: 1px "
+                                                 "solid #5a3a22; border-radius: 6px; }")
+                                      .arg(teinte(l_.couleurs_onglet[std::size_t(i)]));
+            if (b->styleSheet() != style) b->setStyleSheet(style);
         }
     }
 

@@ -3,28 +3,16 @@
 # click at 14 h on the right page, a text, a service, "Valider le rendez-vous"; then a click on
 # the new label, "Effacer le rendez-vous", yes. The file is checked after each step.
 set -euo pipefail
-agenda=$1
-demo=$2
-sortie=$3
-rm -rf "$sortie"
-mkdir -p "$sortie"
-"$demo" "$sortie/donnees" >/dev/null
-export SORTIE=$sortie AGENDA=$agenda
+ici=$(cd "$(dirname "$0")" && pwd)
+source "$ici/commun.sh"
+export AGENDA=$1 SORTIE=$3 COMMUN=$ici/commun.sh
+prepare "$SORTIE" "$2"
 
-cat > "$sortie/session.sh" <<'FIN'
+cat > "$SORTIE/session.sh" <<'FIN'
 #!/usr/bin/env bash
 set -uo pipefail
-cd "$SORTIE/donnees"
-env -u QT_QPA_PLATFORM "$AGENDA" 2> "$SORTIE/agenda.err" &
-pid=$!
-livre=""
-for _ in $(seq 1 50); do
-    livre=$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1 || true)
-    [ -n "$livre" ] && break
-    sleep 0.2
-done
-[ -n "$livre" ] || { echo "aucune fenêtre Agenda"; kill $pid; exit 1; }
-sleep 1
+source "$COMMUN"
+lance
 eval "$(xdotool getwindowgeometry --shell "$livre")"
 LX=$X LY=$Y
 echelle=$(python3 -c "print($WIDTH / 15360)")
@@ -87,15 +75,8 @@ import -window root "$SORTIE/efface.png"
 [ "$(stat -c %s $rv)" -eq $((avant + 512)) ] || echec "la longueur du fichier a changé"
 [ "$(cle)" = "----------          " ] || echec "pas effacé : $(cle)"
 
-xdotool windowfocus --sync "$livre" 2>/dev/null || true
-xdotool key Escape
-for _ in $(seq 1 50); do
-    kill -0 $pid 2>/dev/null || break
-    sleep 0.1
-done
-if kill -0 $pid 2>/dev/null; then echo "Escape n'a pas fermé Agenda"; kill $pid; exit 1; fi
-wait $pid
+termine_par_echap
 FIN
-chmod +x "$sortie/session.sh"
-xvfb-run -a -s "-screen 0 1280x1024x24" "$sortie/session.sh"
-echo "captures : $sortie/cree.png $sortie/efface.png"
+chmod +x "$SORTIE/session.sh"
+xvfb-run -a -s "-screen 0 1280x1024x24" "$SORTIE/session.sh"
+echo "captures : $SORTIE/cree.png $SORTIE/efface.png"

@@ -1,16 +1,29 @@
 // Agenda: the appointment book of the shop, started in its data folder.
 
 #include "book/torva1.h"
-#include "book/torva1_vue.h"
-#include "data/erreur.h"
-#include "ui/echelle.h"
+#include "book/vue/torva1_vue.h"
+#include "editor/vue/detarv_vue.h"
+#include "input/vue/date_97_vue.h"
+#include "input/vue/mini_97_vue.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
-#include "ui/vues.h"
-#include "ui/widgets.h"
+#include "ui/vue/echelle.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QScreen>
+
+namespace {
+
+// The one registration of each modal window: its logic and its widgets.
+void enregistre_fenetres() {
+    using namespace agenda;
+    ui::enregistre_vue<Mini97, Mini97Vue>();
+    ui::enregistre_vue<Date97, Date97Vue>();
+    ui::enregistre_vue<Detarv, DetarvVue>();
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -21,8 +34,7 @@ int main(int argc, char** argv) {
         agenda::ui::fixe_message_fatal([](const QString& message) {
             QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
         });
-
-    agenda::enregistre_vues();
+    enregistre_fenetres();
 
     agenda::Torva1 livre;
     agenda::Torva1Vue vue(livre);

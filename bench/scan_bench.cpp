@@ -44,25 +44,27 @@ void genere() {
     }
     for (int r = 1; r <= records; ++r) {
         RecRv rec;
-        rec.fin_rec = QStringLiteral("\r\n");
+        rec.pose(RecRv::fin_rec, u"\r\n");
         if (r == 1) {
-            rec.dernier_num = records - 1;
+            rec.pose(RecRv::dernier_num, records - 1);
         } else {
             Date d = jour - 1800 + rng.bounded(3600);
             if (sur_le_jour[std::size_t(r - 1)])
                 d = jour;
             else if (d == jour)
                 d += 1;
-            rec.cle_rv = cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("00"),
-                                         QStringLiteral("10"), QStringLiteral("00"));
-            rec.texte_rv = QStringLiteral("Coupe et brushing");
-            rec.couleur_rv = 0xC0FFC0;
+            rec.pose(RecRv::cle_rv, cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("00"),
+                                                    QStringLiteral("10"), QStringLiteral("00")));
+            rec.pose(RecRv::texte_rv, u"Coupe et brushing");
+            rec.pose(RecRv::couleur_rv, 0xC0FFC0);
         }
-        rec.range(std::span(tout.data() + std::size_t(r - 1) * RecRv::longueur, RecRv::longueur));
+        std::copy(rec.octets.begin(), rec.octets.end(),
+                  tout.begin() + std::ptrdiff_t(r - 1) * RecRv::longueur);
     }
-    if (::pwrite(::open("tf_r0000.wdo", O_WRONLY), tout.data(), tout.size(), 0) !=
-        ssize_t(tout.size()))
-        std::abort();
+    const int fd = ::open("tf_r0000.wdo", O_WRONLY);
+    const bool ecrit = fd >= 0 && ::pwrite(fd, tout.data(), tout.size(), 0) == ssize_t(tout.size());
+    if (fd >= 0) ::close(fd);
+    if (!ecrit) std::abort();
 }
 
 void BM_lecture_sequentielle(benchmark::State& state) {

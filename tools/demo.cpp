@@ -4,7 +4,6 @@
 
 #include "clients/rec_cli.h"
 #include "data/dossier.h"
-#include "data/erreur.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
@@ -15,6 +14,7 @@
 #include "data/texte.h"
 #include "editor/inter.h"
 #include "ui/dates.h"
+#include "ui/erreur.h"
 
 #include <cstdio>
 #include <QCoreApplication>
@@ -87,7 +87,7 @@ const std::int32_t palette[] = {0xC0E0FF, 0xFFE0C0, 0xC0FFC0, 0xE0C0FF,
 void ecrit_texte(const QString& nom, const QStringList& lignes) {
     QFile f(nom);
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        throw ErreurFatale(QStringLiteral("Impossible d'écrire %1").arg(nom));
+        throw Erreur(QStringLiteral("Impossible d'écrire %1").arg(nom));
     for (const QString& l : lignes)
         f.write(octets::vers_cp1252(l) + "\r\n");
 }
@@ -96,14 +96,14 @@ void ecrit_catalogue() {
     FichierRecords f;
     f.ouvre(QStringLiteral("w_arr104.wdo"), RecArr::longueur);
     RecArr entete;
-    entete.nb_arr = std::size(services);
+    entete.pose(RecArr::nb_arr, std::int32_t(std::size(services)));
     ecrit_record(f, 1, entete);
     int i = 0;
     for (const auto& s : services) {
         RecArr r;
-        r.code_arr = QStringLiteral("PRE%1").arg(++i, 3, 10, QLatin1Char('0'));
-        r.nom_arr = QString::fromUtf8(s.nom);
-        r.info_arr = motif_zeros(s.minutes, 3);
+        r.pose(RecArr::code_arr, QStringLiteral("PRE%1").arg(++i, 3, 10, QLatin1Char('0')));
+        r.pose(RecArr::nom_arr, QString::fromUtf8(s.nom));
+        r.pose(RecArr::info_arr, motif_zeros(s.minutes, 3));
         ecrit_record(f, i + 1, r);
     }
 }
@@ -112,28 +112,27 @@ void ecrit_clients() {
     FichierRecords f;
     f.ouvre(QStringLiteral("W_CAI038.WDO"), RecCli::longueur);
     RecCli entete;
-    entete.pose_entier(RecCli::off_dernier_client, std::size(clients) + 1);
+    entete.pose(RecCli::dernier_client, std::int32_t(std::size(clients) + 1));
     ecrit_record(f, 1, entete);
     const auto nouveau = [](int n) {
         RecCli r;
-        r.pose_texte(RecCli::off_code, RecCli::lg_code, motif_zeros(n, 4));
-        r.pose_court(RecCli::off_marque_258, 9);
+        r.pose(RecCli::code_client, motif_zeros(n, 4));
+        r.pose(RecCli::marque_258, 9);
         return r;
     };
     RecCli divers = nouveau(1);
-    divers.pose_texte(RecCli::off_nom, RecCli::lg_nom, QStringLiteral("Clients Divers"));
+    divers.pose(RecCli::nom_client, u"Clients Divers");
     ecrit_record(f, 2, divers);
     int n = 1;
     for (const auto& c : clients) {
         RecCli r = nouveau(++n);
-        r.pose_texte(RecCli::off_nom, RecCli::lg_nom, QString::fromUtf8(c.nom));
-        r.pose_texte(RecCli::off_adresse1, RecCli::lg_adresse1,
-                     QStringLiteral("%1 rue de la Roquette").arg(n * 3));
-        r.pose_texte(RecCli::off_code_ville, RecCli::lg_code_ville, QString::fromUtf8(c.ville));
-        r.pose_texte(RecCli::off_telephone, RecCli::lg_telephone, QString::fromUtf8(c.telephone));
-        r.pose_texte(RecCli::off_titre, RecCli::lg_titre, QString::fromUtf8(c.titre));
+        r.pose(RecCli::nom_client, QString::fromUtf8(c.nom));
+        r.pose(RecCli::adresse1, QStringLiteral("%1 rue de la Roquette").arg(n * 3));
+        r.pose(RecCli::code_ville, QString::fromUtf8(c.ville));
+        r.pose(RecCli::telephone, QString::fromUtf8(c.telephone));
+        r.pose(RecCli::titre, QString::fromUtf8(c.titre));
         const bool homme = QByteArray(c.titre) == "Monsieur";
-        r.pose_court(RecCli::off_sexe, homme ? 2 : 1);
+        r.pose(RecCli::sexe, std::int16_t(homme ? 2 : 1));
         ecrit_record(f, n + 1, r);
     }
 }
@@ -158,16 +157,16 @@ void ecrit_rendez_vous_collab(int collab, QRandomGenerator& rng) {
             const int fin = minute + s.minutes;
             const std::int32_t n = alloue_numero(f);
             RecRv r = lit_record<RecRv>(f, n + 1);
-            r.cle_rv =
-                cle_rendez_vous(jour, motif_zeros(minute / 60, 2), motif_zeros(minute % 60, 2),
-                                motif_zeros(fin / 60, 2), motif_zeros(fin % 60, 2));
-            r.texte_rv = QString::fromUtf8(s.nom) + QStringLiteral(" - ") +
-                         QString::fromUtf8(clients[client - 2].nom);
-            r.duree_rv = s.minutes;
-            r.num_client = client;
-            r.code_jour = code_jour(jour);
-            r.couleur_rv = palette[rng.bounded(int(std::size(palette)))];
-            r.encadre_rv = rng.bounded(5) == 0 ? 1 : 0;
+            r.pose(RecRv::cle_rv,
+                   cle_rendez_vous(jour, motif_zeros(minute / 60, 2), motif_zeros(minute % 60, 2),
+                                   motif_zeros(fin / 60, 2), motif_zeros(fin % 60, 2)));
+            r.pose(RecRv::texte_rv, QString::fromUtf8(s.nom) + QStringLiteral(" - ") +
+                                        QString::fromUtf8(clients[client - 2].nom));
+            r.pose(RecRv::duree_rv, s.minutes);
+            r.pose(RecRv::num_client, client);
+            r.pose(RecRv::code_jour, code_jour(jour));
+            r.pose(RecRv::couleur_rv, palette[rng.bounded(int(std::size(palette)))]);
+            r.pose(RecRv::encadre_rv, rng.bounded(5) == 0 ? 1 : 0);
             ecrit_record(f, n + 1, r);
             // A pause now and then, rounded to the quarter hour.
             minute = fin + 15 * int(rng.bounded(3));
@@ -187,7 +186,7 @@ int main(int argc, char** argv) {
     try {
         const QString dossier = QString::fromLocal8Bit(argv[1]);
         if (!QDir().mkpath(dossier) || !QDir::setCurrent(dossier))
-            throw ErreurFatale(QStringLiteral("Dossier inutilisable : %1").arg(dossier));
+            throw Erreur(QStringLiteral("Dossier inutilisable : %1").arg(dossier));
         QStringList lignes;
         for (const char* c : collaborateurs)
             lignes << QString::fromUtf8(c);
@@ -195,7 +194,9 @@ int main(int argc, char** argv) {
         {
             FichierRecords f;
             f.ouvre(QStringLiteral("w_cai020.wdo"), RecTxt20::longueur);
-            ecrit_record(f, 42, RecTxt20{QStringLiteral("0")});
+            RecTxt20 clavier;
+            clavier.pose(RecTxt20::texte, u"0");
+            ecrit_record(f, 42, clavier);
         }
         ecrit_catalogue();
         ecrit_clients();
@@ -207,7 +208,7 @@ int main(int argc, char** argv) {
         ferme_tous_les_canaux();
         std::printf("Dossier de démonstration prêt : %s\n", qPrintable(QDir::currentPath()));
         return 0;
-    } catch (const ErreurFatale& e) {
+    } catch (const Erreur& e) {
         ferme_tous_les_canaux();
         std::fprintf(stderr, "agenda_demo : %s\n", qPrintable(e.message()));
         return 1;

@@ -2,7 +2,6 @@
 
 #include "calendar/calendrier.h"
 #include "data/dossier.h"
-#include "data/erreur.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
 #include "data/param.h"
@@ -12,6 +11,7 @@
 #include "editor/detarv.h"
 #include "editor/inter.h"
 #include "ui/dates.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <cmath>
@@ -61,8 +61,9 @@ void applique_motif(const QString& motif, std::array<bool, 12>& gauche,
     }
 }
 
+// An hour field out of the 16-bit range is an overflow that nothing traps in the load.
 std::int16_t champ_heure(const QString& valeur, int debut, int longueur) {
-    return static_cast<std::int16_t>(val(mid1(valeur, debut, longueur)));
+    return en_i16(val(mid1(valeur, debut, longueur)));
 }
 
 } // namespace
@@ -77,6 +78,7 @@ Torva1::Torva1() {
             sel_click_d(3);
             sel_onglet(3);
         });
+        modifie();
     });
     connect(&Timer3, &QTimer::timeout, this, [this] { emit au_premier_plan(); });
 }
@@ -107,6 +109,7 @@ void Torva1::charge() {
     if (lit_inter(QStringLiteral("TORVA:NUMUSER")).left(6) == QLatin1String("#GENE#"))
         Timer2.start(200);
     ui::cede();
+    modifie();
 }
 
 void Torva1::lit_param() {
@@ -128,7 +131,7 @@ void Torva1::lit_param() {
 
     const QString numuser = lit_inter(QStringLiteral("TORVA:NUMUSER"));
     if (!sans_blancs(numuser).isEmpty()) {
-        etat.num_collab = static_cast<std::int16_t>(val(numuser.left(4)));
+        etat.num_collab = en_i16(val(numuser.left(4)));
         Label7 = sans_blancs(mid1(numuser, 6));
     } else {
         etat.num_collab = 0;
@@ -142,8 +145,7 @@ void Torva1::appel_menu() {
         ui::lance_commande(retour);
         ui::cede();
     }
-    ferme_tous_les_canaux();
-    ui::termine(0);
+    ui::termine(0); // the files are closed on the way out
 }
 
 void Torva1::Form_KeyPress(int code) {
@@ -160,20 +162,19 @@ void Torva1::sel_click_d(int n) {
 
 void Torva1::sel_onglet(int n) {
     if (n == 5 || n == 11) appel_menu();
-    vue_visible = n >= 0 && n < nb_vues ? n : -1;
+    etape([&] { vue_visible = n >= 0 && n < nb_vues ? n : -1; });
     ui::cede();
     switch (n) {
     case 0:
-        lit_param_jour();
-        decod_date();
-        affiche_rv();
+        etape([&] { lit_param_jour(); });
+        etape([&] { decod_date(); });
+        etape([&] { affiche_rv(); });
         break;
     default:
         // The week, year, planning and search views are not in the book yet: their page
         // slot shows empty.
         break;
     }
-    emit modifie();
 }
 
 void Torva1::calend_Click(Date jour) {
@@ -214,7 +215,6 @@ void Torva1::clic_page(int b, int x, int y) {
     Detarv editeur;
     ui::montre_modal(editeur);
     affiche_rv();
-    emit modifie();
 }
 
 void Torva1::lrv_Click(int i) {
@@ -224,7 +224,6 @@ void Torva1::lrv_Click(int i) {
     ui::montre_modal(editeur);
     decod_date();
     affiche_rv();
-    emit modifie();
 }
 
 void Torva1::lit_param_jour() {
@@ -251,10 +250,16 @@ void Torva1::dessine_agenda(ui::Surface& surface) {
     auto& t = table_pages;
     const int b = etat.page_base;
     t[b + nb_heures] = static_cast<std::int16_t>(t[b + heure_fin] - t[b + heure_premiere]);
+    // The division by zero ends the program, even from under the traps of the day view.
     if (t[b + nb_heures] == 0)
-        throw ErreurFatale(QStringLiteral(
-            "Réglage « TORVA:HEURE » invalide : la première heure du jour est égale à l'heure "
-            "de rupture, la page du matin n'a aucune heure."));
+        throw Erreur::sans_piege(
+            b == base_gauche
+                ? QStringLiteral("Réglage « TORVA:HEURE » invalide : la première heure "
+                                 "du jour est égale à l'heure de rupture, la page du "
+                                 "matin n'a aucune heure.")
+                : QStringLiteral("Réglage « TORVA:HEURE » invalide : l'heure de rupture "
+                                 "est égale à la dernière heure du jour, la page de "
+                                 "l'après-midi n'a aucune heure."));
     t[b + hauteur_heure] =
         static_cast<std::int16_t>(std::nearbyint(double(t[b + hauteur]) / t[b + nb_heures]));
     echelle_page = static_cast<float>(t[b + hauteur_heure] / 100.0);
@@ -309,18 +314,19 @@ void Torva1::affiche_rv() {
     lrv.clear();
     lrvd.clear();
     num_rv_label.clear();
-    charge_journee();
+    etape([] { charge_journee(); });
     num_rv_label.assign(std::size_t(etat.nb_jour()) + 1, 0);
     for (int i = 1; i <= etat.nb_jour(); ++i)
-        place_etiquette(i, etat.liste_jour[i - 1]);
+        etape([&] { place_etiquette(i, etat.liste_jour[i - 1]); });
     ui::cede();
 }
 
 void Torva1::place_etiquette(int i, const QString& e) {
     using namespace slot_page;
     const std::int32_t numero = entree_jour::numero(e);
-    const RecRv rec = lit_record<RecRv>(canal::rv, numero + 1);
-    const bool a_gauche = val(mid1(rec.cle_rv, 8, 2)) < table_pages[base_gauche + heure_fin];
+    const RecRv rec = lit_record<RecRv>(canal::rv, std::int64_t(numero) + 1);
+    const bool a_gauche =
+        val(mid1(rec.lit(RecRv::cle_rv), 8, 2)) < table_pages[base_gauche + heure_fin];
     echelle_page = a_gauche ? echelle_g : echelle_d;
     etat.page_base = a_gauche ? base_gauche : base_droite;
     const int b = etat.page_base;
@@ -329,14 +335,19 @@ void Torva1::place_etiquette(int i, const QString& e) {
     et.left = table_pages[b + gauche] + 45;
     et.width = table_pages[b + largeur] - 90;
     et.bordure = entree_jour::encadre(e);
-    et.couleur = rec.couleur_rv;
-    et.legende = sans_blancs(rec.texte_rv);
+    et.couleur = rec.lit(RecRv::couleur_rv);
+    et.legende = sans_blancs(rec.lit(RecRv::texte_rv));
     num_rv_label[std::size_t(i)] = numero;
     const float debut = heure_centieme(entree_jour::heure_debut(e));
-    et.top = int(std::lround(debut * echelle_page + table_pages[b + origine]));
-    // A key damaged by hand may give a negative height, which a label cannot take.
-    const float hauteur_ = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
-    et.height = std::max(0, int(std::lround(hauteur_)));
+    et.top = en_i32(debut * echelle_page + table_pages[b + origine]);
+    // A key damaged by hand may give a negative height, which a label refuses: it keeps the
+    // height it was designed with.
+    et.height = EtiquetteRv::hauteur_modele;
+    etape([&] {
+        const double h = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
+        if (h < 0) throw Erreur(QStringLiteral("Hauteur négative."));
+        et.height = en_i32(h);
+    });
 }
 
 } // namespace agenda

@@ -3,6 +3,7 @@
 // Handlers keep the names of the window's controls and events.
 
 #include "data/etat.h"
+#include "ui/modale.h"
 #include "ui/surface.h"
 
 #include <array>
@@ -17,6 +18,9 @@ namespace agenda {
 
 // An appointment laid on a page, in twips of the page surface.
 struct EtiquetteRv {
+    // The height the label keeps when a damaged key gives it one it cannot take.
+    static constexpr int hauteur_modele = 300;
+
     int left = 0, top = 0, width = 0, height = 0;
     bool bordure = false;
     std::int32_t couleur = 0;
@@ -31,7 +35,7 @@ inline constexpr int heure_premiere = 1, heure_fin = 2, divisions = 3, haut = 4,
 inline constexpr int base_gauche = 0, base_droite = 30;
 } // namespace slot_page
 
-class Torva1 : public QObject {
+class Torva1 : public QObject, public ui::Fenetre {
     Q_OBJECT
 public:
     static constexpr int nb_onglets = 12;
@@ -42,10 +46,11 @@ public:
     // The load, run at start and again on reload; each step bears being run again.
     void charge();
     void lit_param();
-    // Starts the return command and ends the program, without confirmation.
+    // Starts the return command and ends the program, without confirmation: the only way the
+    // book ends, whichever way the operator leaves it.
     [[noreturn]] void appel_menu();
 
-    // Tabs and views.
+    // Tabs and views. sel_onglet skips a failing statement and goes on.
     void sel_click_g(int n);
     void sel_click_d(int n);
     void sel_onglet(int n);
@@ -54,10 +59,13 @@ public:
     void lit_param_jour();
     void dessine_agenda(ui::Surface& surface);
     void decod_date();
+    // Skips a failing statement and goes on: a damaged record costs its own label only.
     void affiche_rv();
 
     // Handlers.
     void Form_KeyPress(int code);
+    // The window manager closes the book.
+    void Form_Unload() { appel_menu(); }
     void ongletg_Click(int i) { sel_click_g(i), sel_onglet(i); }
     void ongletd_Click(int i) { sel_click_d(i), sel_onglet(i); }
     void calend_Click(Date jour);
@@ -86,8 +94,6 @@ public:
     QTimer Timer1, Timer2, Timer3;
 
 signals:
-    // The view shows the state above again.
-    void modifie();
     // Timer3: the window comes to the front.
     void au_premier_plan();
     // The banner sepaffic is loaded, hidden, once for the life of the program.

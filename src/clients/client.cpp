@@ -18,25 +18,16 @@ FichierRecords& fichier() {
 // The fields a new client starts with. Those the book does not own and that a creation does not
 // set (zone_260, zone_265, dernier_client) keep what the read delivered.
 void vide_client(RecCli& r, std::int32_t n) {
-    r.pose_texte(RecCli::off_code, RecCli::lg_code, motif_zeros(n, 4));
-    for (const auto& [offset, largeur] : {std::pair{RecCli::off_nom, RecCli::lg_nom},
-                                          {RecCli::off_adresse1, RecCli::lg_adresse1},
-                                          {RecCli::off_adresse2, RecCli::lg_adresse2},
-                                          {RecCli::off_code_ville, RecCli::lg_code_ville},
-                                          {RecCli::off_zone_175, RecCli::lg_zone_175},
-                                          {RecCli::off_telephone, RecCli::lg_telephone},
-                                          {RecCli::off_zone_220, RecCli::lg_zone_220},
-                                          {RecCli::off_zone_235, RecCli::lg_zone_235},
-                                          {RecCli::off_zone_286, RecCli::lg_zone_286},
-                                          {RecCli::off_bloc_304, RecCli::lg_bloc_304},
-                                          {RecCli::off_bloc_432, RecCli::lg_bloc_432},
-                                          {RecCli::off_bloc_682, RecCli::lg_bloc_682},
-                                          {RecCli::off_bloc_744, RecCli::lg_bloc_744}})
-        r.pose_texte(offset, largeur, QString());
-    r.pose_entier(RecCli::off_nombre_250, 0);
-    r.pose_court(RecCli::off_marque_258, 9);
-    std::fill_n(r.octets_.begin() + RecCli::off_nombres_270, RecCli::lg_nombres_270, 0);
-    r.pose_court(RecCli::off_sexe, 0);
+    r.pose(RecCli::code_client, motif_zeros(n, 4));
+    for (const Texte c :
+         {RecCli::nom_client, RecCli::adresse1, RecCli::adresse2, RecCli::code_ville,
+          RecCli::zone_175, RecCli::telephone, RecCli::zone_220, RecCli::zone_235, RecCli::zone_286,
+          RecCli::bloc_304, RecCli::bloc_432, RecCli::bloc_682, RecCli::bloc_744})
+        r.pose(c, {});
+    r.pose(RecCli::nombre_250, 0);
+    r.pose(RecCli::marque_258, 9);
+    r.zeros_270();
+    r.pose(RecCli::sexe, 0);
 }
 
 } // namespace
@@ -45,34 +36,34 @@ void ouvre_clients() {
     fichier().ferme();
     fichier().ouvre(etat.prefixe_dossier + QStringLiteral("W_CAI038.WDO"), RecCli::longueur);
     rec_cli = lit_record<RecCli>(fichier(), 1);
-    if (rec_cli.entier(RecCli::off_dernier_client) > 0) return;
+    if (rec_cli.lit(RecCli::dernier_client) > 0) return;
     // First use: the catch-all client number 1.
-    rec_cli.pose_entier(RecCli::off_dernier_client, 1);
+    rec_cli.pose(RecCli::dernier_client, 1);
     client_alloue = 1;
     ecrit_record(fichier(), 1, rec_cli);
     rec_cli = lit_record<RecCli>(fichier(), 2);
     vide_client(rec_cli, 1);
-    rec_cli.pose_texte(RecCli::off_nom, RecCli::lg_nom, QStringLiteral("Clients Divers"));
+    rec_cli.pose(RecCli::nom_client, u"Clients Divers");
     ecrit_record(fichier(), 2, rec_cli);
 }
 
 void cree_client() {
     rec_cli = lit_record<RecCli>(fichier(), 1);
-    const std::int32_t n = rec_cli.entier(RecCli::off_dernier_client) + 1;
+    const std::int32_t n = plus_un(rec_cli.lit(RecCli::dernier_client));
     client_alloue = n;
-    rec_cli.pose_entier(RecCli::off_dernier_client, n);
+    rec_cli.pose(RecCli::dernier_client, n);
     ecrit_record(fichier(), 1, rec_cli);
-    rec_cli = lit_record<RecCli>(fichier(), n + 1);
+    rec_cli = lit_record<RecCli>(fichier(), std::int64_t(n) + 1);
     vide_client(rec_cli, n);
-    ecrit_record(fichier(), n + 1, rec_cli);
+    ecrit_record(fichier(), std::int64_t(n) + 1, rec_cli);
 }
 
 void lit_client(std::int32_t n) {
-    rec_cli = lit_record<RecCli>(fichier(), n + 1);
+    rec_cli = lit_record<RecCli>(fichier(), std::int64_t(n) + 1);
 }
 
 void ecrit_client(std::int32_t n) {
-    ecrit_record(fichier(), n + 1, rec_cli);
+    ecrit_record(fichier(), std::int64_t(n) + 1, rec_cli);
 }
 
 } // namespace agenda

@@ -1,12 +1,12 @@
 #include "data/dossier.h"
 
-#include "data/erreur.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
 #include "data/octets.h"
 #include "data/record.h"
 #include "data/texte.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <QDir>
@@ -53,11 +53,11 @@ void lit_clavier_ecran() {
     f.ouvre(QStringLiteral("w_cai020.wdo"), RecTxt20::longueur);
     const auto r = lit_record<RecTxt20>(f, record_clavier_ecran);
     f.ferme();
-    etat.clavier_ecran = static_cast<std::int16_t>(val(r.texte));
+    etat.clavier_ecran = en_i16(val(r.lit(RecTxt20::texte)));
 }
 
 void lit_nb_services() {
-    etat.nb_services = lit_record<RecArr>(canal::arr, 1).nb_arr;
+    etat.nb_services = lit_record<RecArr>(canal::arr, 1).lit(RecArr::nb_arr);
 }
 
 void charge_collaborateurs() {
@@ -66,9 +66,9 @@ void charge_collaborateurs() {
     etat.noms_par_num.fill(QString());
     QFile f(nom_lien_agenda);
     if (!f.open(QIODevice::ReadOnly))
-        throw ErreurFatale(QStringLiteral("Fichier introuvable : %1\nLe dossier de données %2 "
-                                          "ne peut pas servir sans la liste des collaborateurs.")
-                               .arg(nom_lien_agenda, QDir::currentPath()));
+        throw Erreur(QStringLiteral("Fichier introuvable : %1\nLe dossier de données %2 "
+                                    "ne peut pas servir sans la liste des collaborateurs.")
+                         .arg(nom_lien_agenda, QDir::currentPath()));
     QByteArray contenu = f.readAll();
     f.close();
     if (contenu.endsWith('\n')) contenu.chop(1);
@@ -77,18 +77,18 @@ void charge_collaborateurs() {
     for (QByteArray ligne : contenu.split('\n')) {
         if (ligne.endsWith('\r')) ligne.chop(1);
         if (etat.nb_collab == 20)
-            throw ErreurFatale(QStringLiteral("%1 : plus de 20 collaborateurs, la ligne 21 ne "
-                                              "peut pas être lue.")
-                                   .arg(nom_lien_agenda));
+            throw Erreur(QStringLiteral("%1 : plus de 20 collaborateurs, la ligne 21 ne "
+                                        "peut pas être lue.")
+                             .arg(nom_lien_agenda));
         const QString texte = octets::depuis_cp1252(
             std::span(reinterpret_cast<const std::uint8_t*>(ligne.constData()),
                       static_cast<std::size_t>(ligne.size())));
         etat.noms_collab[++etat.nb_collab] = texte;
         const double numero = val(texte.left(2));
         if (numero < 0 || numero > 20)
-            throw ErreurFatale(QStringLiteral("%1 : le numéro de collaborateur de la ligne "
-                                              "« %2 » dépasse 20.")
-                                   .arg(nom_lien_agenda, texte));
+            throw Erreur(QStringLiteral("%1 : le numéro de collaborateur de la ligne "
+                                        "« %2 » dépasse 20.")
+                             .arg(nom_lien_agenda, texte));
         etat.noms_par_num[static_cast<std::size_t>(numero)] = texte;
     }
 }

@@ -1,6 +1,7 @@
 #include "data/fichier_records.h"
 
-#include "data/erreur.h"
+#include "ui/erreur.h"
+#include "ui/systeme.h"
 
 #include <array>
 #include <cerrno>
@@ -14,21 +15,44 @@ namespace agenda {
 
 namespace {
 
-[[noreturn]] void echec(const QString& action, const QString& chemin) {
-    throw ErreurFatale(QStringLiteral("Erreur d'accès au fichier %1 (%2) : %3")
-                           .arg(chemin, action, QString::fromLocal8Bit(strerror(errno))));
-}
+Disque systeme;
+Disque* disque_en_place = &systeme;
 
 } // namespace
+
+ssize_t Disque::lit(int fd, void* octets, std::size_t n, off_t position, const QString&) {
+    return ::pread(fd, octets, n, position);
+}
+
+ssize_t Disque::ecrit(int fd, const void* octets, std::size_t n, off_t position, const QString&) {
+    return ::pwrite(fd, octets, n, position);
+}
+
+void fixe_disque(Disque* d) {
+    disque_en_place = d ? d : &systeme;
+}
+
+void FichierRecords::echec(const QString& action, int numero) const {
+    throw Erreur(QStringLiteral("Erreur d'accès au fichier %1 (%2) : %3.")
+                     .arg(chemin_, action, texte_systeme(numero)));
+}
+
+std::int64_t FichierRecords::position(std::int64_t r) const {
+    // Record numbers come from the files: one that no file can hold is an error of the
+    // caller's step, not a position to seek to.
+    constexpr std::int64_t limite = std::int64_t(1) << 40;
+    if (r < 1 || r > limite / longueur_) echec(QStringLiteral("enregistrement %1").arg(r), EINVAL);
+    return (r - 1) * longueur_;
+}
 
 void FichierRecords::ouvre(const QString& chemin, int longueur_record) {
     ferme();
     const QByteArray nom = QFile::encodeName(chemin);
     const int fd = ::open(nom.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (fd < 0) echec(QStringLiteral("ouverture"), chemin);
+    chemin_ = chemin;
+    if (fd < 0) echec(QStringLiteral("ouverture"), errno);
     fd_ = fd;
     longueur_ = longueur_record;
-    chemin_ = chemin;
 }
 
 void FichierRecords::ferme() {
@@ -38,17 +62,19 @@ void FichierRecords::ferme() {
 
 std::int64_t FichierRecords::taille() const {
     struct stat st {};
-    if (::fstat(fd_, &st) != 0) echec(QStringLiteral("taille"), chemin_);
+    if (::fstat(fd_, &st) != 0) echec(QStringLiteral("taille"), errno);
     return st.st_size;
 }
 
 std::size_t FichierRecords::lit_bloc(std::int64_t r, octets::Tampon buf) const {
+    const std::int64_t depart = position(r);
     std::size_t lu = 0;
     while (lu < buf.size()) {
-        const ssize_t n = ::pread(fd_, buf.data() + lu, buf.size() - lu,
-                                  static_cast<off_t>(position(r) + std::int64_t(lu)));
+        const ssize_t n =
+            disque_en_place->lit(fd_, buf.data() + lu, buf.size() - lu,
+                                 static_cast<off_t>(depart + std::int64_t(lu)), chemin_);
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) echec(QStringLiteral("lecture"), chemin_);
+        if (n < 0) echec(QStringLiteral("lecture"), errno);
         if (n == 0) break;
         lu += static_cast<std::size_t>(n);
     }
@@ -61,25 +87,42 @@ void FichierRecords::lit(std::int64_t r, octets::Tampon buf) const {
 }
 
 void FichierRecords::ecrit(std::int64_t r, octets::TamponLu buf) {
-    const ssize_t n = ::pwrite(fd_, buf.data(), buf.size(), static_cast<off_t>(position(r)));
-    if (n != static_cast<ssize_t>(buf.size())) echec(QStringLiteral("écriture"), chemin_);
+    const std::int64_t depart = position(r);
+    std::size_t fait = 0;
+    while (fait < buf.size()) {
+        const ssize_t n =
+            disque_en_place->ecrit(fd_, buf.data() + fait, buf.size() - fait,
+                                   static_cast<off_t>(depart + std::int64_t(fait)), chemin_);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) echec(QStringLiteral("écriture"), errno);
+        // A write that takes nothing and reports nothing: the disk is full.
+        if (n == 0) echec(QStringLiteral("écriture"), ENOSPC);
+        fait += static_cast<std::size_t>(n);
+    }
 }
 
 namespace {
 std::array<FichierRecords, canal::maximum + 1>& canaux() {
     static std::array<FichierRecords, canal::maximum + 1> table;
+    static const bool fermes_a_la_fin = [] {
+        ui::avant_la_fin(ferme_tous_les_canaux);
+        return true;
+    }();
+    (void)fermes_a_la_fin;
     return table;
 }
 } // namespace
 
 FichierRecords& canal_fichier(int numero) {
-    return canaux().at(static_cast<std::size_t>(numero));
+    if (numero < 1 || numero > canal::maximum)
+        throw Erreur(QStringLiteral("Numéro de fichier %1 invalide.").arg(numero));
+    return canaux()[std::size_t(numero)];
 }
 
 int canal_libre() {
     for (int i = 1; i <= canal::maximum; ++i)
-        if (!canaux()[i].ouvert()) return i;
-    throw ErreurFatale(QStringLiteral("Trop de fichiers ouverts."));
+        if (!canaux()[std::size_t(i)].ouvert()) return i;
+    throw Erreur(QStringLiteral("Trop de fichiers ouverts."));
 }
 
 void ferme_tous_les_canaux() {

@@ -8,8 +8,21 @@
 
 #include <cstdint>
 #include <QString>
+#include <sys/types.h>
 
 namespace agenda {
+
+// The system calls under every record file. Tests put their own in place to make the Nth read
+// or write fail or come back short, and to see the order of the writes.
+class Disque {
+public:
+    virtual ~Disque() = default;
+    virtual ssize_t lit(int fd, void* octets, std::size_t n, off_t position, const QString& chemin);
+    virtual ssize_t ecrit(int fd, const void* octets, std::size_t n, off_t position,
+                          const QString& chemin);
+};
+// nullptr gives the system's calls back.
+void fixe_disque(Disque* disque);
 
 class FichierRecords {
 public:
@@ -18,7 +31,7 @@ public:
     FichierRecords& operator=(const FichierRecords&) = delete;
     ~FichierRecords() { ferme(); }
 
-    // Opens the file (relative names are in the working folder); throws ErreurFatale when the
+    // Opens the file (relative names are in the working folder); throws Erreur when the
     // system refuses it.
     void ouvre(const QString& chemin, int longueur_record);
     void ferme();
@@ -31,14 +44,16 @@ public:
     // Record r (from 1). Bytes the file does not have are left as the caller set them, which
     // is how a read past the end yields the format's blanks and zeros.
     void lit(std::int64_t r, octets::Tampon buf) const;
-    // One write call for the whole record; past the end it extends the file.
+    // One write call for the whole record, completed if the system takes only part of it;
+    // past the end it extends the file. A failure throws with the system's reason in French.
     void ecrit(std::int64_t r, octets::TamponLu buf);
     // Reads as many whole records from r on as fit in buf, in one call; returns the number of
     // bytes read (short at the end of the file).
     std::size_t lit_bloc(std::int64_t r, octets::Tampon buf) const;
 
 private:
-    std::int64_t position(std::int64_t r) const { return (r - 1) * longueur_; }
+    std::int64_t position(std::int64_t r) const;
+    [[noreturn]] void echec(const QString& action, int numero) const;
 
     int fd_ = -1;
     int longueur_ = 0;

@@ -22,10 +22,10 @@ void ferme_param() {
 
 // The number (from 1) of the first record holding the key, or 0. `trouve` receives it.
 int cherche(const QString& cle, RecParam& trouve) {
-    const std::int32_t n = lit_record<RecParam>(store(), 1).nb_param;
+    const std::int32_t n = lit_record<RecParam>(store(), 1).lit(RecParam::nb_param);
     for (std::int32_t i = 1; i <= n; ++i) {
-        trouve = lit_record<RecParam>(store(), i + 1);
-        if (trouve.cle_param == cle) return i;
+        trouve = lit_record<RecParam>(store(), std::int64_t(i) + 1);
+        if (trouve.lit(RecParam::cle_param) == cle) return i;
     }
     return 0;
 }
@@ -42,31 +42,32 @@ void ouvre_param() {
 QString lit_valeur_param(const QString& cle) {
     ouvre_param();
     RecParam rec;
-    const int i = cherche(cadre(cle, RecParam::lg_cle), rec);
-    const QString resultat = i > 0 ? sans_blancs(rec.valeur_param) : QString();
+    const int i = cherche(cadre(cle, RecParam::cle_param.largeur), rec);
+    const QString resultat = i > 0 ? sans_blancs(rec.lit(RecParam::valeur_param)) : QString();
     ferme_param();
     return resultat;
 }
 
 void ecrit_param(const QString& cle, const QString& valeur) {
     ouvre_param();
-    const QString cle_normale = cadre(cle, RecParam::lg_cle);
+    const QString cle_normale = cadre(cle, RecParam::cle_param.largeur);
     RecParam rec;
     if (const int i = cherche(cle_normale, rec); i > 0) {
-        rec.valeur_param = valeur;
-        ecrit_record(store(), i + 1, rec);
+        rec.pose(RecParam::valeur_param, valeur);
+        ecrit_record(store(), std::int64_t(i) + 1, rec);
     } else {
         // The header is counted before the record is written: a reader in between meets a
         // blank key, which matches nothing.
         rec = lit_record<RecParam>(store(), 1);
-        ++rec.nb_param;
+        const std::int32_t n = plus_un(rec.lit(RecParam::nb_param));
+        rec.pose(RecParam::nb_param, n);
         ecrit_record(store(), 1, rec);
         ui::cede();
-        const std::int32_t n = rec.nb_param;
-        rec.valeur_param = valeur; // fin_param stays as record 1 has it
-        rec.cle_param = cle_normale;
-        rec.num1_param = rec.nb_param = rec.num3_param = 0;
-        ecrit_record(store(), n + 1, rec);
+        rec.pose(RecParam::valeur_param, valeur); // fin_param stays as record 1 has it
+        rec.pose(RecParam::cle_param, cle_normale);
+        for (const Entier32 c : {RecParam::num1_param, RecParam::nb_param, RecParam::num3_param})
+            rec.pose(c, 0);
+        ecrit_record(store(), std::int64_t(n) + 1, rec);
         ui::cede();
     }
     ferme_param();

@@ -42,9 +42,8 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
         if (complets < n) {
             // A last record cut short: read it on its own, so that its missing bytes are blank.
             if (lu % RecRv::longueur != 0) {
-                auto dernier = image_vierge<RecRv>();
-                f.lit(premier + complets + 1, dernier);
-                visite(static_cast<std::int32_t>(premier + complets), std::span(dernier));
+                const auto dernier = lit_record<RecRv>(f, premier + complets + 1);
+                visite(static_cast<std::int32_t>(premier + complets), std::span(dernier.octets));
             }
             return;
         }
@@ -56,12 +55,12 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
 QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     constexpr int debut_cle = 19;
     char suite[48];
-    const int n =
-        std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
-                      octets::i32(rec, RecRv::off_encadre), octets::i32(rec, RecRv::off_couleur));
+    const int n = std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
+                                octets::i32(rec, RecRv::encadre_rv.offset),
+                                octets::i32(rec, RecRv::couleur_rv.offset));
     QString e(debut_cle + n, Qt::Uninitialized);
     for (int k = 0; k < debut_cle; ++k)
-        e[k] = octets::car_cp1252(rec[std::size_t(RecRv::off_cle + k)]);
+        e[k] = octets::car_cp1252(rec[std::size_t(RecRv::cle_rv.offset + k)]);
     for (int k = 0; k < n; ++k)
         e[debut_cle + k] = QLatin1Char(suite[k]);
     return e;
@@ -85,23 +84,24 @@ struct DebutCle {
 
 std::int32_t alloue_numero(FichierRecords& f) {
     RecRv entete = lit_record<RecRv>(f, 1);
-    const std::int32_t n = ++entete.dernier_num;
+    const std::int32_t n = plus_un(entete.lit(RecRv::dernier_num));
+    entete.pose(RecRv::dernier_num, n);
     ecrit_record(f, 1, entete);
     ui::cede();
     RecRv vide;
-    vide.fin_rec = QStringLiteral("\r\n");
-    ecrit_record(f, n + 1, vide);
+    vide.pose(RecRv::fin_rec, u"\r\n");
+    ecrit_record(f, std::int64_t(n) + 1, vide);
     return n;
 }
 
 std::int32_t repare_entete(FichierRecords& f) {
     RecRv entete = lit_record<RecRv>(f, 1);
     const double present = double(f.taille()) / RecRv::longueur - 1;
-    if (present > entete.dernier_num) {
-        entete.dernier_num = static_cast<std::int32_t>(std::nearbyint(present));
+    if (present > entete.lit(RecRv::dernier_num)) {
+        entete.pose(RecRv::dernier_num, en_i32(present));
         ecrit_record(f, 1, entete);
     }
-    return entete.dernier_num;
+    return entete.lit(RecRv::dernier_num);
 }
 
 QString motif_jour(Date d) {
@@ -112,7 +112,7 @@ QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
                         const QString& heure_fin, const QString& minute_fin) {
     return cadre(motif_jour(jour) + QLatin1Char(':') + heure + QLatin1Char('H') + minute +
                      QLatin1Char(':') + heure_fin + QLatin1Char('H') + minute_fin,
-                 RecRv::lg_cle);
+                 RecRv::cle_rv.largeur);
 }
 
 std::int32_t code_jour(Date jour) {
@@ -138,7 +138,7 @@ void charge_journee() {
 
 std::int32_t cherche_note(const QString& cle) {
     auto& f = canal_fichier(canal::notes);
-    const std::int32_t compte = lit_record<RecRv>(f, 1).dernier_num;
+    const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
     const DebutCle<9> motif(cle);
     std::int32_t trouve = 0;
     parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {

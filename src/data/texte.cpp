@@ -1,8 +1,39 @@
 #include "data/texte.h"
 
+#include "ui/erreur.h"
+
 #include <cmath>
+#include <limits>
 
 namespace agenda {
+
+namespace {
+
+template <class Entier>
+Entier en_entier(double v) {
+    const double r = std::nearbyint(v);
+    // Written so that a NaN fails too.
+    if (!(r >= double(std::numeric_limits<Entier>::min()) &&
+          r <= double(std::numeric_limits<Entier>::max())))
+        throw Erreur(QStringLiteral("Dépassement de capacité (%1).").arg(v));
+    return static_cast<Entier>(r);
+}
+
+} // namespace
+
+std::int16_t en_i16(double v) {
+    return en_entier<std::int16_t>(v);
+}
+
+std::int32_t en_i32(double v) {
+    return en_entier<std::int32_t>(v);
+}
+
+std::int32_t plus_un(std::int32_t n) {
+    if (n == std::numeric_limits<std::int32_t>::max())
+        throw Erreur(QStringLiteral("Dépassement de capacité (%1 + 1).").arg(n));
+    return n + 1;
+}
 
 double val(QStringView s) {
     qsizetype i = 0;
@@ -26,8 +57,8 @@ double val(QStringView s) {
 
 QString motif_zeros(double valeur, int chiffres) {
     const double arrondi = std::round(valeur);
-    const auto absolu = static_cast<long long>(std::fabs(arrondi));
-    QString t = QString::number(absolu).rightJustified(chiffres, QLatin1Char('0'));
+    QString t =
+        QString::number(std::fabs(arrondi), 'f', 0).rightJustified(chiffres, QLatin1Char('0'));
     return arrondi < 0 ? QLatin1Char('-') + t : t;
 }
 

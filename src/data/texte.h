@@ -2,9 +2,17 @@
 // Values pass through texts read by position in fixed layouts; these are the readings and
 // patterns they use.
 
+#include <cstdint>
 #include <QString>
 
 namespace agenda {
+
+// A number stored into a 16-bit or 32-bit integer, rounded half to even as the language does.
+// Out of range, or not a number, it is an overflow error (Erreur).
+std::int16_t en_i16(double v);
+std::int32_t en_i32(double v);
+// A count read from a file, plus one; past the largest 32-bit value it is an overflow error.
+std::int32_t plus_un(std::int32_t n);
 
 // The numeric reading of a text: leading blanks skipped, an optional sign, digits and a
 // decimal part, up to the first character that does not fit; 0 for nothing.

@@ -12,6 +12,7 @@
 #include "input/date_97.h"
 #include "input/mini_97.h"
 #include "ui/dates.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <cmath>
@@ -22,7 +23,7 @@ namespace {
 
 constexpr double pi = 3.1415926;
 constexpr double une_minute = 0.016666;
-constexpr double centre_x = 2515, centre_y = 2520;
+constexpr double centre_x = ui::horloge_centre_x, centre_y = ui::horloge_centre_y;
 constexpr double longueur_h = 1300, longueur_m = 1800;
 constexpr std::int32_t orange = 33023, blanc = 0xFFFFFF;
 
@@ -56,12 +57,15 @@ constexpr std::array<ui::RectTwips, 12> minutes_face0 = {{
     {1110, 300, 465, 435},
 }};
 
-// The two ring radii of faces 1 to 3: each cell's centre on its ring, at 30 degrees a cell.
-struct Anneaux {
-    int heures, minutes;
-};
-constexpr std::array<Anneaux, 4> anneaux = {
-    {{1700, 2300}, {1500, 2060}, {1450, 2260}, {1720, 2320}}};
+// Faces 1 to 3 lay each cell's centre on the face's rings, at 30 degrees a cell; the others
+// keep face 0's cells, as the window has them.
+constexpr int faces_sur_anneaux = 4;
+
+QString element(const QStringList& liste, int i) {
+    if (i < 0 || i >= liste.size())
+        throw Erreur(QStringLiteral("Indice hors limites (%1).").arg(i));
+    return liste[i];
+}
 
 std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& tailles,
                                            int rayon) {
@@ -111,87 +115,106 @@ QStringList Detarv::minutes() {
 }
 
 void Detarv::Form_Load() {
-    lit_horloge();
-    charge_horloge();
-    ref_sms_chargee.clear();
-    ouvre_clients();
-    for (int i = 1; i <= etat.nb_collab; ++i) {
-        const QString& entree = etat.noms_collab[std::size_t(i)];
-        if (val(entree.left(2)) == etat.num_collab) {
-            Label13 = sans_blancs(mid1(entree, 5));
-            break;
+    etape([&] { lit_horloge(); });
+    etape([&] { charge_horloge(); });
+    etape([&] { ref_sms_chargee.clear(); });
+    etape([&] { ouvre_clients(); });
+    etape([&] {
+        for (int i = 1; i <= etat.nb_collab; ++i) {
+            const QString& entree = etat.noms_collab[std::size_t(i)];
+            if (val(entree.left(2)) == etat.num_collab) {
+                Label13 = sans_blancs(mid1(entree, 5));
+                break;
+            }
         }
-    }
-    Label4 = jour_en_lettres(etat.date_courante);
-    Label7 = nombre(etat.duree_defaut);
-    etat.num_rv != 0 ? charge_rv() : init_rv();
-    analyse_per();
-    affiche_heure();
-    remplit_services();
+    });
+    etape([&] { Label4 = jour_en_lettres(etat.date_courante); });
+    etape([&] { Label7 = nombre(etat.duree_defaut); });
+    etape([&] { etat.num_rv != 0 ? charge_rv() : init_rv(); });
+    etape([&] { analyse_per(); });
+    etape([&] { affiche_heure(); });
+    etape([&] { remplit_services(); });
 }
 
 void Detarv::lit_horloge() {
     const QString horl = lit_valeur_param(QStringLiteral("TORVA:HORL"));
     Label16 = nombre(val(horl));
-    // A hand whose mark is missing keeps its designed colour.
+    // A hand whose mark is missing keeps its designed colour; a colour that is no 32-bit
+    // number fails its own statement only.
     if (const qsizetype p = horl.indexOf(QLatin1String("|H|")); p >= 0)
-        aiguilh.couleur = std::int32_t(val(horl.mid(p + 3, 10)));
+        etape([&] { aiguilh.couleur = en_i32(val(horl.mid(p + 3, 10))); });
     if (const qsizetype p = horl.indexOf(QLatin1String("|M|")); p >= 0)
-        aiguilm.couleur = std::int32_t(val(horl.mid(p + 3, 10)));
+        etape([&] { aiguilm.couleur = en_i32(val(horl.mid(p + 3, 10))); });
 }
 
 void Detarv::init_rv() {
     const int h = etat.heure_clic;
-    Check2 = h >= 12 ? 1 : 0;
     const QStringList liste = heures();
+    etape([&] { Check2 = h >= 12 ? 1 : 0; });
     // An hour past the list (23 + 1) leaves the end empty; the end is computed again anyway.
-    Combo1 = h >= 0 && h < liste.size() ? liste[h] : QString();
-    Combo3 = h + 1 >= 0 && h + 1 < liste.size() ? liste[h + 1] : QString();
-    Combo2 = Combo4 = QStringLiteral("00");
+    etape([&] { Combo1 = element(liste, h); });
+    etape([&] { Combo3 = element(liste, h + 1); });
+    etape([&] { Combo2 = Combo4 = QStringLiteral("00"); });
 }
 
 void Detarv::charge_rv() {
-    const RecRv r = lit_record<RecRv>(canal::rv, etat.num_rv + 1);
-    Text1 = sans_blancs(r.texte_rv);
-    Combo1 = mid1(r.cle_rv, 8, 2);
-    Check2 = val(Combo1) < 12 ? 0 : 1;
-    Combo2 = mid1(r.cle_rv, 11, 2);
-    Combo3 = mid1(r.cle_rv, 14, 2);
-    Combo4 = mid1(r.cle_rv, 17, 2);
-    Check1 = r.encadre_rv;
-    std::int32_t duree = r.duree_rv;
-    if (duree == 0)
-        duree = std::int32_t((val(Combo3) * 60 + val(Combo4)) - (val(Combo1) * 60 + val(Combo2)));
-    if (r.num_client != 0) {
-        Label14 = QString::number(r.num_client);
-        affiche_client();
-    }
-    ref_sms_chargee = r.ref_sms;
-    Label8 = ref_sms_chargee;
-    Label7 = QString::number(duree);
-    Text1_couleur = r.couleur_rv;
+    // A record that cannot be read leaves the blank one: each later step takes what it finds.
+    RecRv r;
+    etape([&] { r = lit_record<RecRv>(canal::rv, std::int64_t(etat.num_rv) + 1); });
+    const QString cle = r.lit(RecRv::cle_rv);
+    etape([&] { Text1 = sans_blancs(r.lit(RecRv::texte_rv)); });
+    etape([&] {
+        Combo1 = mid1(cle, 8, 2);
+        Check2 = val(Combo1) < 12 ? 0 : 1;
+    });
+    etape([&] {
+        Combo2 = mid1(cle, 11, 2);
+        Combo3 = mid1(cle, 14, 2);
+        Combo4 = mid1(cle, 17, 2);
+    });
+    etape([&] { Check1 = r.lit(RecRv::encadre_rv); });
+    std::int32_t duree = r.lit(RecRv::duree_rv);
+    etape([&] {
+        if (duree == 0)
+            duree = en_i32((val(Combo3) * 60 + val(Combo4)) - (val(Combo1) * 60 + val(Combo2)));
+    });
+    etape([&] {
+        if (const std::int32_t client = r.lit(RecRv::num_client); client != 0) {
+            Label14 = QString::number(client);
+            affiche_client();
+        }
+    });
+    etape([&] {
+        ref_sms_chargee = r.lit(RecRv::ref_sms);
+        Label8 = ref_sms_chargee;
+    });
+    etape([&] { Label7 = QString::number(duree); });
+    etape([&] { Text1_couleur = r.lit(RecRv::couleur_rv); });
 }
 
 void Detarv::sauve_rv() {
     auto& f = canal_fichier(canal::rv);
     if (etat.num_rv == 0) etat.num_rv = alloue_numero(f);
-    RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
-    r.cle_rv = cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4);
-    r.texte_rv = sans_blancs(Text1);
-    r.couleur_rv = Text1_couleur;
-    r.encadre_rv = Check1;
-    r.code_jour = code_jour(etat.date_courante);
-    r.duree_rv = std::int32_t(std::nearbyint(val(Label7)));
-    if (r.duree_rv < 0 || r.duree_rv > duree_maximum) r.duree_rv = etat.duree_defaut;
-    r.ref_sms = QString();
-    r.num_client = std::int32_t(val(Label14));
+    const std::int64_t numero = std::int64_t(etat.num_rv) + 1;
+    RecRv r = lit_record<RecRv>(f, numero);
+    r.pose(RecRv::cle_rv, cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4));
+    r.pose(RecRv::texte_rv, sans_blancs(Text1));
+    r.pose(RecRv::couleur_rv, Text1_couleur);
+    r.pose(RecRv::encadre_rv, Check1);
+    r.pose(RecRv::code_jour, code_jour(etat.date_courante));
+    // Compared before it is stored, so that no typed figure can overflow the field.
+    const double duree = std::nearbyint(val(Label7));
+    r.pose(RecRv::duree_rv, duree < 0 || duree > duree_maximum ? std::int32_t(etat.duree_defaut)
+                                                               : std::int32_t(duree));
+    r.pose(RecRv::ref_sms, {});
+    r.pose(RecRv::num_client, en_i32(val(Label14)));
     ref_sms_nouvelle.clear();
     if (!sans_blancs(Text2).isEmpty()) {
         ref_sms_nouvelle =
             cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
-        r.ref_sms = ref_sms_nouvelle;
+        r.pose(RecRv::ref_sms, ref_sms_nouvelle);
     }
-    ecrit_record(f, etat.num_rv + 1, r);
+    ecrit_record(f, numero, r);
 }
 
 void Detarv::bt_valid_Click() {
@@ -209,9 +232,10 @@ void Detarv::bt_annul_Click() {
     }
     if (demande(QStringLiteral("Confirmez l'effacement du rendez-vous ?"), 4) != 6) return;
     auto& f = canal_fichier(canal::rv);
-    RecRv r = lit_record<RecRv>(f, etat.num_rv + 1);
-    r.cle_rv = QStringLiteral("----------");
-    ecrit_record(f, etat.num_rv + 1, r);
+    const std::int64_t numero = std::int64_t(etat.num_rv) + 1;
+    RecRv r = lit_record<RecRv>(f, numero);
+    r.pose(RecRv::cle_rv, u"----------");
+    ecrit_record(f, numero, r);
     ui::cede();
     etat.num_rv = 0;
     ferme();
@@ -235,15 +259,15 @@ void Detarv::bt_corr_Click() {
 }
 
 void Detarv::affiche_client() {
-    etat.num_client_courant = static_cast<std::int16_t>(std::nearbyint(val(Label14)));
+    // A number out of the 16-bit range is an overflow error: the caller's trap, if any, takes it.
+    etat.num_client_courant = en_i16(val(Label14));
     lit_client(etat.num_client_courant);
-    const QString nom_client = sans_blancs(rec_cli.texte(RecCli::off_nom, RecCli::lg_nom));
+    const QString nom_client = sans_blancs(rec_cli.lit(RecCli::nom_client));
     const QString fin_de_ligne = QStringLiteral("\r\n");
-    Label15 = nom_client + fin_de_ligne +
-              sans_blancs(rec_cli.texte(RecCli::off_adresse1, RecCli::lg_adresse1)) + fin_de_ligne +
-              sans_blancs(rec_cli.texte(RecCli::off_code_ville, RecCli::lg_code_ville)) +
-              fin_de_ligne + QStringLiteral("Téléphone : --------------------------------------");
-    Text2 = chiffres(rec_cli.texte(RecCli::off_telephone, RecCli::lg_telephone));
+    Label15 = nom_client + fin_de_ligne + sans_blancs(rec_cli.lit(RecCli::adresse1)) +
+              fin_de_ligne + sans_blancs(rec_cli.lit(RecCli::code_ville)) + fin_de_ligne +
+              QStringLiteral("Téléphone : --------------------------------------");
+    Text2 = chiffres(rec_cli.lit(RecCli::telephone));
     Image2_visible = true;
     if (sans_blancs(Text1).isEmpty()) Text1 = nom_client;
 }
@@ -254,8 +278,8 @@ void Detarv::Picture1_MouseDown(std::int32_t couleur) {
 }
 
 void Detarv::charge_horloge() {
-    face = int(val(Label16));
-    if (face < 0 || face >= int(anneaux.size())) {
+    face = en_i16(val(Label16));
+    if (face < 0 || face >= faces_sur_anneaux) {
         sheur = heures_face0; // the cells stay where the window has them
         sminu = minutes_face0;
         return;
@@ -264,8 +288,9 @@ void Detarv::charge_horloge() {
         sheur = heures_face0;
         sminu = minutes_face0;
     } else {
-        sheur = sur_l_anneau(heures_face0, anneaux[std::size_t(face)].heures);
-        sminu = sur_l_anneau(minutes_face0, anneaux[std::size_t(face)].minutes);
+        const auto anneaux = ui::anneaux_horloge[std::size_t(face)];
+        sheur = sur_l_anneau(heures_face0, anneaux.heures);
+        sminu = sur_l_anneau(minutes_face0, anneaux.minutes);
     }
 }
 
@@ -361,10 +386,10 @@ void Detarv::g2_Click(int ligne, int colonne) {
 void Detarv::remplit_services() {
     g1.clear();
     for (std::int32_t i = 1; i <= etat.nb_services; ++i) {
-        const RecArr s = lit_record<RecArr>(canal::arr, i + 1);
+        const RecArr s = lit_record<RecArr>(canal::arr, std::int64_t(i) + 1);
         g1.push_back(
-            {sans_blancs(s.nom_arr),
-             QString::number(std::int64_t(val(s.info_arr.left(3)))) + QStringLiteral(" mn  "),
+            {sans_blancs(s.lit(RecArr::nom_arr)),
+             motif_zeros(val(s.lit(RecArr::info_arr).left(3)), 1) + QStringLiteral(" mn  "),
              QString::number(i)});
     }
     while (g1.size() < std::size_t(lignes_services))

@@ -22,10 +22,11 @@ public:
     static constexpr int lignes_services = 50;
     static constexpr int duree_maximum = 800;
 
-    QString nom() const override { return QStringLiteral("detarv"); }
+    // Every step under a trap that skips it when it fails.
     void Form_Load() override;
 
-    // Load, save and delete.
+    // Load, save and delete. init_rv and charge_rv skip a failing step and go on; sauve_rv has
+    // no trap.
     void init_rv();
     void charge_rv();
     void sauve_rv();

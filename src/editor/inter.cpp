@@ -10,28 +10,6 @@
 
 namespace agenda {
 
-using namespace octets;
-
-RecInter RecInter::charge(TamponLu b) {
-    RecInter r;
-    r.cle_inter = texte(b, off_cle, lg_cle);
-    r.zone_15 = texte(b, off_zone_15, lg_zone_15);
-    r.valeur_inter = texte(b, off_valeur, lg_valeur);
-    r.zone_63 = texte(b, off_zone_63, lg_zone_63);
-    r.zone_64 = texte(b, off_zone_64, lg_zone_64);
-    r.nb_inter = i32(b, off_nb);
-    return r;
-}
-
-void RecInter::range(Tampon b) const {
-    pose_texte(b, off_cle, lg_cle, cle_inter);
-    pose_texte(b, off_zone_15, lg_zone_15, zone_15);
-    pose_texte(b, off_valeur, lg_valeur, valeur_inter);
-    pose_texte(b, off_zone_63, lg_zone_63, zone_63);
-    pose_texte(b, off_zone_64, lg_zone_64, zone_64);
-    pose_i32(b, off_nb, nb_inter);
-}
-
 namespace {
 
 const QString marque_init = QStringLiteral("#INIT#");
@@ -49,11 +27,11 @@ void ferme_inter() {
 }
 
 QString cle_recherche(const QString& cle) {
-    return cadre(sans_blancs(cle), RecInter::lg_cle).toUpper();
+    return cadre(sans_blancs(cle), RecInter::cle_inter.largeur).toUpper();
 }
 
 bool porte_marque(const RecInter& r) {
-    return r.cle_inter.startsWith(marque_init);
+    return r.lit(RecInter::cle_inter).startsWith(marque_init);
 }
 
 const std::array<QString, 10> lignes_fiche = {
@@ -79,31 +57,33 @@ void ouvre_inter() {
         ajoute_inter();
         // The buffer is the blank entry ajoute_inter just wrote.
         entete = RecInter{};
-        entete.cle_inter = marque_init;
-        entete.nb_inter = 0;
+        entete.pose(RecInter::cle_inter, marque_init);
         ecrit_record(intlog(), 1, entete);
     }
-    compte_inter = entete.nb_inter;
+    compte_inter = entete.lit(RecInter::nb_inter);
 }
 
 std::int32_t ajoute_inter() {
     RecInter entete = lit_record<RecInter>(intlog(), 1);
-    const std::int32_t n = ++entete.nb_inter;
+    const std::int32_t n = plus_un(entete.lit(RecInter::nb_inter));
+    entete.pose(RecInter::nb_inter, n);
     ecrit_record(intlog(), 1, entete);
-    ecrit_record(intlog(), n + 1, RecInter{});
+    ecrit_record(intlog(), std::int64_t(n) + 1, RecInter{});
     return n;
 }
 
 std::int32_t cherche_inter(const QString& cle) {
     for (std::int32_t i = 1; i <= compte_inter; ++i)
-        if (lit_record<RecInter>(intlog(), i + 1).cle_inter == cle) return i;
+        if (lit_record<RecInter>(intlog(), std::int64_t(i) + 1).lit(RecInter::cle_inter) == cle)
+            return i;
     return -1;
 }
 
 QString lit_inter(const QString& cle) {
     ouvre_inter();
     const std::int32_t n = cherche_inter(cle_recherche(cle));
-    const QString valeur = n > 0 ? lit_record<RecInter>(intlog(), n + 1).valeur_inter : QString();
+    const QString valeur =
+        n > 0 ? lit_record<RecInter>(intlog(), n + 1).lit(RecInter::valeur_inter) : QString();
     ferme_inter();
     return valeur;
 }
@@ -114,8 +94,8 @@ void ecrit_inter(const QString& cle, const QString& valeur) {
     std::int32_t n = cherche_inter(recherche);
     if (n < 0) n = ajoute_inter();
     RecInter r = lit_record<RecInter>(intlog(), n + 1);
-    r.cle_inter = recherche;
-    r.valeur_inter = valeur;
+    r.pose(RecInter::cle_inter, recherche);
+    r.pose(RecInter::valeur_inter, valeur);
     ecrit_record(intlog(), n + 1, r);
     ferme_inter();
 }
@@ -126,11 +106,14 @@ RecInter ouvre_rvv_181() {
     f.ouvre(etat.prefixe_dossier + QStringLiteral("wrv181ff.wdo"), RecInter::longueur);
     RecInter r = lit_record<RecInter>(f, 1);
     if (porte_marque(r)) return r;
-    r.cle_inter = marque_init + ui::format_date(ui::date_maintenant(), u"dd/mm/yyyy");
-    r.zone_64 = r.zone_15 = r.valeur_inter = r.zone_63 = QString();
+    r.pose(RecInter::cle_inter,
+           marque_init + ui::format_date(ui::date_maintenant(), u"dd/mm/yyyy"));
+    for (const Texte c :
+         {RecInter::zone_64, RecInter::zone_15, RecInter::valeur_inter, RecInter::zone_63})
+        r.pose(c, {});
     ecrit_record(f, 1, r);
     for (std::size_t i = 0; i < lignes_fiche.size(); ++i) {
-        r.valeur_inter = lignes_fiche[i];
+        r.pose(RecInter::valeur_inter, lignes_fiche[i]);
         ecrit_record(f, static_cast<std::int64_t>(i) + 2, r);
     }
     return r;
@@ -141,9 +124,9 @@ void ecrit_rendez_vous(const QString& date_en_lettres, const QString& heure,
     // The lines take the other fields of the buffer that the opening left: record 1's.
     RecInter r = ouvre_rvv_181();
     auto& f = canal_fichier(canal::fiche_rv);
-    r.valeur_inter = sans_blancs(date_en_lettres);
+    r.pose(RecInter::valeur_inter, sans_blancs(date_en_lettres));
     ecrit_record(f, 8, r);
-    r.valeur_inter = QStringLiteral("à : ") + heure + QStringLiteral(" H ") + minute;
+    r.pose(RecInter::valeur_inter, QStringLiteral("à : ") + heure + QStringLiteral(" H ") + minute);
     ecrit_record(f, 9, r);
 }
 

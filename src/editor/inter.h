@@ -2,38 +2,29 @@
 // The two small files shared with the point-of-sale program: W_intlog.wdo, named texts left by
 // and for the calling program, and wrv181ff.wdo, the slip of the last validated appointment.
 
-#include "data/octets.h"
+#include "data/record.h"
 
 #include <cstdint>
 #include <QString>
 
 namespace agenda {
 
-struct RecInter {
-    static constexpr int longueur = 128;
-    static constexpr int off_cle = 0, lg_cle = 15;
-    static constexpr int off_zone_15 = 15, lg_zone_15 = 8;
-    static constexpr int off_valeur = 23, lg_valeur = 40;
-    static constexpr int off_zone_63 = 63, lg_zone_63 = 1;
-    static constexpr int off_zone_64 = 64, lg_zone_64 = 60;
-    static constexpr int off_nb = 124;
+struct RecInter : Record<128> {
+    static constexpr Texte cle_inter{0, 15};
+    static constexpr Texte zone_15{15, 8};
+    static constexpr Texte valeur_inter{23, 40};
+    static constexpr Texte zone_63{63, 1};
+    static constexpr Texte zone_64{64, 60};
+    static constexpr Entier32 nb_inter{124};
 
-    QString cle_inter;
-    QString zone_15;
-    QString valeur_inter;
-    QString zone_63;
-    QString zone_64;
-    std::int32_t nb_inter = 0;
-
-    static RecInter charge(octets::TamponLu buf);
-    void range(octets::Tampon buf) const;
+    RecInter() { zeros(nb_inter.offset, 4); }
 };
-static_assert(RecInter::off_zone_15 == RecInter::off_cle + RecInter::lg_cle);
-static_assert(RecInter::off_valeur == RecInter::off_zone_15 + RecInter::lg_zone_15);
-static_assert(RecInter::off_zone_63 == RecInter::off_valeur + RecInter::lg_valeur);
-static_assert(RecInter::off_zone_64 == RecInter::off_zone_63 + RecInter::lg_zone_63);
-static_assert(RecInter::off_nb == RecInter::off_zone_64 + RecInter::lg_zone_64);
-static_assert(RecInter::off_nb + 4 == RecInter::longueur);
+static_assert(RecInter::zone_15.offset == RecInter::cle_inter.fin());
+static_assert(RecInter::valeur_inter.offset == RecInter::zone_15.fin());
+static_assert(RecInter::zone_63.offset == RecInter::valeur_inter.fin());
+static_assert(RecInter::zone_64.offset == RecInter::zone_63.fin());
+static_assert(RecInter::nb_inter.offset == RecInter::zone_64.fin());
+static_assert(RecInter::nb_inter.fin() == RecInter::longueur);
 
 // W_intlog.wdo, on the first free channel, initialised when its mark is missing.
 void ouvre_inter();

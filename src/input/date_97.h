@@ -10,9 +10,12 @@ namespace agenda {
 
 class Date97 : public ui::FenetreModale {
 public:
-    QString nom() const override { return QStringLiteral("date_97"); }
     void Form_Load() override;
+    // Escape or the window's close: cancel.
+    void sortie() override { btc_Click(3); }
 
+    // The selection moved, by the mouse or the keyboard: btc(2) takes it.
+    void MonthView1_SelChange(Date jour) { MonthView1 = jour; }
     void MonthView1_DateClick(Date jour);
     void MonthView1_DateDblClick(Date jour);
     void btc_Click(int index);

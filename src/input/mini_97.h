@@ -6,6 +6,7 @@
 #include "ui/geometrie.h"
 #include "ui/modale.h"
 
+#include <cstdint>
 #include <QString>
 
 namespace agenda {
@@ -16,8 +17,9 @@ public:
     static constexpr int agrandissement = 1500; // twips added in text mode
     static constexpr QChar barre = QLatin1Char('|');
 
-    QString nom() const override { return QStringLiteral("mini_97"); }
     void Form_Load() override;
+    // Escape or the window's close: the second button.
+    void sortie() override { btc_Click(3); }
 
     // What the operator typed or pasted into Text1: control characters become blanks.
     void Text1_Change(const QString& texte);

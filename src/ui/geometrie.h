@@ -40,4 +40,20 @@ inline std::array<RectTwips, 8> pieces_cadre(int W, int H, int s) {
              {s, H - s, W - 2 * s, s}}};
 }
 
+// The clock faces 0 to 6 of the picture store, 5030 x 5040 twips: their centre, and the rings
+// on which the hour and the minute cells lie. The store draws the numbers and the dots on these
+// rings; the editor lays its cells there.
+inline constexpr int horloge_largeur = 5030, horloge_hauteur = 5040;
+inline constexpr int horloge_centre_x = 2515, horloge_centre_y = 2520;
+struct AnneauxHorloge {
+    int heures, minutes;
+};
+inline constexpr std::array<AnneauxHorloge, 7> anneaux_horloge = {{{1700, 2300},
+                                                                   {1500, 2060},
+                                                                   {1450, 2260},
+                                                                   {1720, 2320},
+                                                                   {1700, 2300},
+                                                                   {1700, 2300},
+                                                                   {1700, 2300}}};
+
 } // namespace agenda::ui

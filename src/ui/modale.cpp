@@ -1,53 +1,45 @@
 #include "ui/modale.h"
 
-#include "data/erreur.h"
+#include "ui/erreur.h"
 
-#include <QHash>
+#include <unordered_map>
 
 namespace agenda::ui {
 
 namespace {
-QHash<QString, Presentation>& vues() {
-    static QHash<QString, Presentation> v;
+using Table = std::unordered_map<std::type_index, Presentation>;
+Table& vues() {
+    static Table v;
     return v;
 }
-QHash<QString, Presentation>& scenarios() {
-    static QHash<QString, Presentation> s;
+Table& scenarios() {
+    static Table s;
     return s;
 }
 } // namespace
 
-void FenetreModale::ferme() {
+void Fenetre::ferme() {
     fermee_ = true;
     if (sur_fermeture) sur_fermeture();
 }
 
 void montre_modal(FenetreModale& f) {
     f.Form_Load();
-    if (const auto s = scenarios().constFind(f.nom()); s != scenarios().cend()) {
-        (*s)(f);
-        return;
-    }
-    if (const auto v = vues().constFind(f.nom()); v != vues().cend()) {
-        (*v)(f);
-        return;
-    }
-    throw ErreurFatale(QStringLiteral("La fenêtre %1 n'a pas de présentation.").arg(f.nom()));
+    const std::type_index type = typeid(f);
+    if (const auto s = scenarios().find(type); s != scenarios().end()) return s->second(f);
+    if (const auto v = vues().find(type); v != vues().end()) return v->second(f);
+    throw Erreur(QStringLiteral("Fenêtre sans présentation : %1.").arg(type.name()));
 }
 
-void enregistre_vue(const QString& nom, Presentation vue) {
-    vues().insert(nom, std::move(vue));
+void enregistre_presentation(std::type_index type, Presentation vue) {
+    vues()[type] = std::move(vue);
 }
 
-bool vue_enregistree(const QString& nom) {
-    return vues().contains(nom);
-}
-
-void scenario(const QString& nom, Presentation script) {
+void pose_scenario(std::type_index type, Presentation script) {
     if (script)
-        scenarios().insert(nom, std::move(script));
+        scenarios()[type] = std::move(script);
     else
-        scenarios().remove(nom);
+        scenarios().erase(type);
 }
 
 } // namespace agenda::ui

@@ -27,6 +27,10 @@ QColor couleur(std::int32_t bbggrr) {
     return QColor(int(v & 0xFF), int(v >> 8 & 0xFF), int(v >> 16 & 0xFF));
 }
 
+std::int32_t bbggrr(const QColor& c) {
+    return c.red() | c.green() << 8 | c.blue() << 16;
+}
+
 namespace {
 // A font whose pixel size is its height in twips, so that measures come out in twips
 // whatever the screen.

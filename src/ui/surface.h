@@ -11,6 +11,8 @@ namespace agenda::ui {
 
 // 0x00BBGGRR as the files keep colours; 0x800000nn is the system colour nn.
 QColor couleur(std::int32_t bbggrr);
+// And back: a screen colour as the files keep it.
+std::int32_t bbggrr(const QColor& c);
 
 // Font sizes are points; a point is 20 twips.
 inline constexpr int twips_par_point = 20;

@@ -6,6 +6,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QProcess>
+#include <vector>
 
 namespace agenda::ui {
 
@@ -79,7 +80,20 @@ void fixe_message_fatal(std::function<void(const QString&)> m) {
     montre_message() = std::move(m);
 }
 
+namespace {
+std::vector<std::function<void()>>& actions_finales() {
+    static std::vector<std::function<void()>> a;
+    return a;
+}
+} // namespace
+
+void avant_la_fin(std::function<void()> action) {
+    actions_finales().push_back(std::move(action));
+}
+
 void termine(int code) {
+    for (const auto& a : actions_finales())
+        a();
     if (fin()) fin()(code);
     std::fflush(nullptr);
     std::exit(code);

@@ -32,7 +32,9 @@ void fixe_lanceur(std::function<bool(const QString&)> lanceur);
 void message_fatal(const QString& message);
 void fixe_message_fatal(std::function<void(const QString&)> montre);
 
-// Ends the program at once with this status; the caller has closed its files.
+// What must be done before any end of the program (closing the files), in the order given.
+void avant_la_fin(std::function<void()> action);
+// Ends the program at once with this status, after the actions above.
 [[noreturn]] void termine(int code);
 // Replaces the end (tests): the function must not return, it throws.
 void fixe_fin(std::function<void(int)> fin);

@@ -1,9 +1,9 @@
-#include "data/erreur.h"
 #include "data/fichier_records.h"
 #include "data/param.h"
 #include "editor/inter.h"
-#include "livre.h"
+#include "support/livre.h"
 #include "ui/dates.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <QCoreApplication>
@@ -107,7 +107,7 @@ TEST_F(Chargement, LeTroisiemeMinuteurRameneLaFenetreDevant) {
 
 TEST_F(Chargement, SansListeDesCollaborateursLeProgrammeSArrete) {
     QFile::remove(QStringLiteral("lien_agenda.txt"));
-    EXPECT_THROW(livre->charge(), ErreurFatale);
+    EXPECT_THROW(livre->charge(), Erreur);
 }
 
 TEST_F(Chargement, UnePremiereHeureEgaleALaRuptureArreteLeProgramme) {
@@ -115,7 +115,7 @@ TEST_F(Chargement, UnePremiereHeureEgaleALaRuptureArreteLeProgramme) {
     try {
         livre->charge();
         FAIL();
-    } catch (const ErreurFatale& e) {
+    } catch (const Erreur& e) {
         EXPECT_TRUE(e.message().contains(QStringLiteral("TORVA:HEURE")));
     }
 }

@@ -92,5 +92,5 @@ TEST_F(Clients, LesOctetsDuPointDeVenteSontPortesTelsQuels) {
     }
     EXPECT_EQ(contenu(fichier), octets);
     lit_client(200); // past the end: blank, no error
-    EXPECT_EQ(rec_cli.texte(RecCli::off_nom, RecCli::lg_nom).trimmed(), QString());
+    EXPECT_EQ(rec_cli.lit(RecCli::nom_client).trimmed(), QString());
 }

@@ -1,8 +1,8 @@
 #include "data/dossier.h"
-#include "data/erreur.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "support/support.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <QElapsedTimer>
@@ -101,7 +101,7 @@ TEST_F(Dossier, CeQuiArreteLeProgramme) {
         try {
             charge_collaborateurs();
             ADD_FAILURE() << c.nom;
-        } catch (const ErreurFatale& e) {
+        } catch (const Erreur& e) {
             EXPECT_TRUE(e.message().contains(QString::fromUtf8(c.dans_le_message))) << c.nom;
         }
     }

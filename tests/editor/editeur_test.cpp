@@ -1,13 +1,13 @@
 // The editor's flows from the book: a click on the page or on a label opens it, scripted
 // through the modal seam as an operator would work it, and the file is checked byte by byte.
 
-#include "../book/livre.h"
 #include "data/fichier_records.h"
 #include "data/param.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
 #include "input/date_97.h"
 #include "input/mini_97.h"
+#include "support/livre.h"
 #include "ui/dates.h"
 #include "ui/surface.h"
 
@@ -48,20 +48,18 @@ protected:
         charge();
     }
     void TearDown() override {
-        for (const char* nom : {"detarv", "mini_97", "date_97"})
-            ui::scenario(QString::fromLatin1(nom), {});
+        ui::scenario<Detarv>({});
+        ui::scenario<Mini97>({});
+        ui::scenario<Date97>({});
         Livre::TearDown();
     }
     // The editor as the operator works it.
-    void editeur(std::function<void(Detarv&)> script) {
-        ui::scenario(QStringLiteral("detarv"),
-                     [script](ui::FenetreModale& f) { script(static_cast<Detarv&>(f)); });
-    }
+    void editeur(std::function<void(Detarv&)> script) { ui::scenario<Detarv>(script); }
     // The prompt box answers with this button.
     void repond(int bouton) {
-        ui::scenario(QStringLiteral("mini_97"), [this, bouton](ui::FenetreModale& f) {
-            questions << static_cast<Mini97&>(f).Label1;
-            static_cast<Mini97&>(f).btc_Click(bouton);
+        ui::scenario<Mini97>([this, bouton](Mini97& b) {
+            questions << b.Label1;
+            b.btc_Click(bouton);
         });
     }
     // A click at 14 h on the right page, and a new appointment written there.
@@ -258,9 +256,8 @@ TEST_F(Editeur, LeClientDuRendezVous) {
 }
 
 TEST_F(Editeur, ChangerDeDate) {
-    ui::scenario(QStringLiteral("date_97"), [](ui::FenetreModale& f) {
-        static_cast<Date97&>(f).MonthView1_DateDblClick(ui::date_de(QDate(2004, 3, 5)));
-    });
+    ui::scenario<Date97>(
+        [](Date97& d) { d.MonthView1_DateDblClick(ui::date_de(QDate(2004, 3, 5))); });
     editeur([](Detarv& d) {
         d.bt_corr_Click();
         EXPECT_EQ(d.Label4, QStringLiteral("Vendredi 05 mars 2004"));

@@ -3,6 +3,7 @@
 
 #include "book/torva1.h"
 #include "ui/geometrie.h"
+#include "ui/vue/vue.h"
 
 #include <array>
 #include <functional>
@@ -21,18 +22,18 @@ namespace ui {
 class VueSurface;
 } // namespace ui
 
-class Torva1Vue : public QWidget {
+class Torva1Vue : public QWidget, public ui::Vue {
 public:
     explicit Torva1Vue(Torva1& logique);
-
-    // Shows the state of the logic again.
-    void synchronise();
+    ~Torva1Vue() override;
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
     bool eventFilter(QObject* o, QEvent* e) override;
 
 private:
+    void montre() override;
     void apres_le_clic(std::function<void()> handler);
     QLabel* texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
                   Qt::Alignment a);

@@ -1,4 +1,6 @@
-#include "ui/icc.h"
+#include "ui/vue/icc.h"
+
+#include "ui/geometrie.h"
 
 #include <algorithm>
 #include <array>
@@ -202,29 +204,30 @@ namespace {
 
 struct StyleCadran {
     QColor fond, bord, chiffres;
-    int anneau_heures, anneau_minutes; // twips, as the editor's cells are laid
 };
 
 const std::array<StyleCadran, 7> cadrans = {{
-    {QColor(0xfb, 0xf6, 0xe8), QColor(0xc9, 0xa4, 0x4c), QColor(0x4a, 0x2c, 0x1a), 1700, 2300},
-    {QColor(0x2b, 0x2b, 0x3a), QColor(0xc0, 0xc0, 0xc8), QColor(0xf0, 0xf0, 0xf0), 1500, 2060},
-    {QColor(0xe6, 0xf0, 0xfa), QColor(0x3a, 0x6e, 0xa5), QColor(0x1d, 0x3b, 0x5c), 1450, 2260},
-    {QColor(0xe9, 0xd3, 0xae), QColor(0x7a, 0x4a, 0x1e), QColor(0x4a, 0x2c, 0x1a), 1720, 2320},
-    {QColor(0xf4, 0xe4, 0xe4), QColor(0x9e, 0x1b, 0x1b), QColor(0x5a, 0x10, 0x10), 1700, 2300},
-    {QColor(0xe8, 0xf4, 0xe8), QColor(0x2e, 0x7d, 0x32), QColor(0x1b, 0x4d, 0x1e), 1700, 2300},
-    {QColor(0xff, 0xff, 0xff), QColor(0x60, 0x60, 0x60), QColor(0x20, 0x20, 0x20), 1700, 2300},
+    {QColor(0xfb, 0xf6, 0xe8), QColor(0xc9, 0xa4, 0x4c), QColor(0x4a, 0x2c, 0x1a)},
+    {QColor(0x2b, 0x2b, 0x3a), QColor(0xc0, 0xc0, 0xc8), QColor(0xf0, 0xf0, 0xf0)},
+    {QColor(0xe6, 0xf0, 0xfa), QColor(0x3a, 0x6e, 0xa5), QColor(0x1d, 0x3b, 0x5c)},
+    {QColor(0xe9, 0xd3, 0xae), QColor(0x7a, 0x4a, 0x1e), QColor(0x4a, 0x2c, 0x1a)},
+    {QColor(0xf4, 0xe4, 0xe4), QColor(0x9e, 0x1b, 0x1b), QColor(0x5a, 0x10, 0x10)},
+    {QColor(0xe8, 0xf4, 0xe8), QColor(0x2e, 0x7d, 0x32), QColor(0x1b, 0x4d, 0x1e)},
+    {QColor(0xff, 0xff, 0xff), QColor(0x60, 0x60, 0x60), QColor(0x20, 0x20, 0x20)},
 }};
 
 } // namespace
 
 QPixmap horloge(int n, QSize t) {
     QPixmap p = vierge(t);
-    const StyleCadran& st = cadrans[std::size_t(std::clamp(n, 0, int(cadrans.size()) - 1))];
+    const auto face = std::size_t(std::clamp(n, 0, int(cadrans.size()) - 1));
+    const StyleCadran& st = cadrans[face];
+    const AnneauxHorloge anneaux = anneaux_horloge[face];
     QPainter g(&p);
     g.setRenderHint(QPainter::Antialiasing);
     g.setRenderHint(QPainter::TextAntialiasing);
-    g.scale(t.width() / 5030.0, t.height() / 5040.0);
-    const QPointF centre(2515, 2520);
+    g.scale(t.width() / double(horloge_largeur), t.height() / double(horloge_hauteur));
+    const QPointF centre(horloge_centre_x, horloge_centre_y);
     QRadialGradient rg(centre, 2500);
     rg.setColorAt(0, st.fond.lighter(104));
     rg.setColorAt(0.9, st.fond);
@@ -236,8 +239,8 @@ QPixmap horloge(int n, QSize t) {
     g.setPen(Qt::NoPen);
     for (int i = 0; i < 12; ++i) {
         const double a = i * 3.1415926 / 6;
-        const QPointF c(centre.x() + st.anneau_minutes * std::sin(a),
-                        centre.y() - st.anneau_minutes * std::cos(a));
+        const QPointF c(centre.x() + anneaux.minutes * std::sin(a),
+                        centre.y() - anneaux.minutes * std::cos(a));
         g.setBrush(QColor(0x90, 0x90, 0x90));
         g.drawEllipse(c, 90, 90);
     }
@@ -248,8 +251,8 @@ QPixmap horloge(int n, QSize t) {
     g.setPen(st.chiffres);
     for (int i = 0; i < 12; ++i) {
         const double a = i * 3.1415926 / 6;
-        const QPointF c(centre.x() + st.anneau_heures * std::sin(a),
-                        centre.y() - st.anneau_heures * std::cos(a));
+        const QPointF c(centre.x() + anneaux.heures * std::sin(a),
+                        centre.y() - anneaux.heures * std::cos(a));
         g.drawText(QRectF(c.x() - 400, c.y() - 300, 800, 600), Qt::AlignCenter,
                    QString::number(i == 0 ? 12 : i));
     }

@@ -1,4 +1,4 @@
-#include "ui/echelle.h"
+#include "ui/vue/echelle.h"
 
 #include "ui/surface.h"
 

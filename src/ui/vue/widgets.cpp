@@ -1,8 +1,8 @@
-#include "ui/widgets.h"
+#include "ui/vue/widgets.h"
 
-#include "ui/echelle.h"
 #include "ui/geometrie.h"
-#include "ui/icc.h"
+#include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
 
 #include <cmath>
 #include <QGuiApplication>

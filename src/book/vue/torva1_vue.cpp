@@ -1,9 +1,9 @@
-#include "book/torva1_vue.h"
+#include "book/vue/torva1_vue.h"
 
-#include "data/erreur.h"
-#include "ui/echelle.h"
-#include "ui/icc.h"
-#include "ui/widgets.h"
+#include "ui/erreur.h"
+#include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
+#include "ui/vue/widgets.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -31,7 +31,8 @@ QString teinte(std::int32_t bbggrr) {
 
 } // namespace
 
-Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
+Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
+    ui::pose_fenetre_principale(this);
     setWindowTitle(QStringLiteral("Agenda"));
     setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
     setAutoFillBackground(false);
@@ -63,7 +64,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
             b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
             b->setIconSize(b->size());
             connect(b, &QPushButton::clicked, this, [this, i, gauche] {
-                protege([&] { gauche ? l_.ongletg_Click(i) : l_.ongletd_Click(i); });
+                appelle([&] { gauche ? l_.ongletg_Click(i) : l_.ongletd_Click(i); });
             });
             (gauche ? ongletg_ : ongletd_)[std::size_t(i)] = b;
         }
@@ -84,7 +85,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     calend_->setGridVisible(false);
     calend_->setFont(ui::police(QStringLiteral("Arial"), 8));
     connect(calend_, &QCalendarWidget::clicked, this,
-            [this](QDate d) { protege([&] { l_.calend_Click(ui::date_de(d)); }); });
+            [this](QDate d) { appelle([&] { l_.calend_Click(ui::date_de(d)); }); });
 
     const auto fleche = [this](QWidget* page, const ui::RectTwips& r, bool gauche) {
         auto* b = new QToolButton(page);
@@ -99,13 +100,12 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
     picture2_ = fleche(pageg_, {800, 10300, 600, 500}, true);
     picture3_ = fleche(paged_, {5600, 10300, 600, 500}, false);
     connect(picture2_, &QToolButton::clicked, this,
-            [this] { protege([&] { l_.Picture2_Click(); }); });
+            [this] { appelle([&] { l_.Picture2_Click(); }); });
     connect(picture3_, &QToolButton::clicked, this,
-            [this] { protege([&] { l_.Picture3_Click(); }); });
+            [this] { appelle([&] { l_.Picture3_Click(); }); });
 
     vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
 
-    connect(&l_, &Torva1::modifie, this, &Torva1Vue::synchronise);
     connect(&l_, &Torva1::charge_banniere, this, [this] {
         sepaffic_ = std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint);
         sepaffic_->setObjectName(QStringLiteral("sepaffic"));
@@ -121,16 +121,18 @@ Torva1Vue::Torva1Vue(Torva1& logique) : l_(logique) {
         titre->setStyleSheet(QStringLiteral("color: #c9a44c; background: transparent;"));
         ui::centre_fenetre_haut(*sepaffic_);
     });
-    connect(&l_, &Torva1::au_premier_plan, this, [this] {
-        raise();
-        activateWindow();
-    });
+    // Timer3 never puts the book above a window it opened.
+    connect(&l_, &Torva1::au_premier_plan, this, [] { ui::au_premier_plan(); });
+}
+
+Torva1Vue::~Torva1Vue() {
+    ui::pose_fenetre_principale(nullptr);
 }
 
 void Torva1Vue::apres_le_clic(std::function<void()> handler) {
     // The window a click opens runs after the click's events have been delivered, so that its
     // modal loop does not start inside the toolkit's mouse handling.
-    QTimer::singleShot(0, this, [handler = std::move(handler)] { protege(handler); });
+    QTimer::singleShot(0, this, [this, handler = std::move(handler)] { appelle(handler); });
 }
 
 QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
@@ -143,7 +145,7 @@ QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points,
     return l;
 }
 
-void Torva1Vue::synchronise() {
+void Torva1Vue::montre() {
     for (int i = 0; i < Torva1::nb_onglets; ++i) {
         for (const bool gauche : {true, false}) {
             QPushButton* b = (gauche ? ongletg_ : ongletd_)[std::size_t(i)];
@@ -221,10 +223,16 @@ bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
 
 void Torva1Vue::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape) {
-        protege([&] { l_.Form_KeyPress(27); });
+        appelle([&] { l_.Form_KeyPress(27); });
         return;
     }
     QWidget::keyPressEvent(e);
+}
+
+void Torva1Vue::closeEvent(QCloseEvent* e) {
+    // The window manager's close ends the book as every other way out does.
+    e->ignore();
+    appelle([&] { l_.Form_Unload(); });
 }
 
 } // namespace agenda

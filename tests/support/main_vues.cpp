@@ -1,5 +1,4 @@
-// Tests run with a widget application on the offscreen platform: fonts and text measures are
-// real, no display is needed.
+// The widgets' tests run with a widget application on the offscreen platform.
 
 #include <gtest/gtest.h>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "livre.h"
+#include "support/livre.h"
 
 namespace agenda::test {
 

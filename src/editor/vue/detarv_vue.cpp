@@ -1,0 +1,271 @@
+#include "editor/vue/detarv_vue.h"
+
+#include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
+#include "ui/vue/widgets.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace agenda {
+
+namespace {
+
+using ui::RectTwips;
+
+// The window, in twips.
+constexpr int largeur = 14400, hauteur = 10200;
+constexpr RectTwips r_label4{400, 250, 7000, 550}, r_label13{7600, 250, 6400, 550};
+constexpr RectTwips r_label10{400, 850, 6700, 300}, r_text1{400, 1200, 6700, 2300};
+constexpr RectTwips r_picture1{400, 3600, 4900, 450}, r_check1{5500, 3600, 1600, 450};
+constexpr RectTwips r_label15{400, 4200, 6700, 1250}, r_text2{2000, 5100, 2300, 330};
+constexpr RectTwips r_g1{400, 5700, 4500, 3700}, r_g2{5100, 5700, 2000, 1700};
+constexpr RectTwips r_label6{5100, 7550, 2000, 300}, r_label7{5100, 7900, 1100, 420},
+    r_label9{6300, 7900, 800, 420};
+constexpr RectTwips r_label12{400, 9450, 6700, 500};
+constexpr RectTwips r_label11{7600, 850, 6400, 500}, r_picture2{7500, 1400, 5030, 5040};
+constexpr RectTwips r_picture3{12700, 1600, 1400, 480}, r_picture4{12700, 2150, 1400, 480};
+constexpr RectTwips r_debut{12700, 3000, 1400, 300}, r_combo1{12700, 3300, 680, 420},
+    r_combo2{13420, 3300, 680, 420};
+constexpr RectTwips r_fin{12700, 3900, 1400, 300}, r_combo3{12700, 4200, 680, 420},
+    r_combo4{13420, 4200, 680, 420};
+constexpr RectTwips r_valid{7600, 6800, 3100, 650}, r_annul{10900, 6800, 3100, 650},
+    r_annull{7600, 7650, 3100, 650}, r_corr{10900, 7650, 3100, 650};
+
+QString crlf_vers_ecran(QString s) {
+    return s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+QString ecran_vers_crlf(QString s) {
+    return s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
+
+} // namespace
+
+DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
+    const auto police = [](double pts, bool gras = false) {
+        return ui::police(QStringLiteral("DejaVu Sans"), pts, gras);
+    };
+    const auto label = [&](const RectTwips& r, const QString& t, double pts, bool gras = false) {
+        auto* w = new QLabel(t, this);
+        ui::place(*w, r);
+        w->setFont(police(pts, gras));
+        w->setWordWrap(true);
+        return w;
+    };
+
+    label4_ = label(r_label4, {}, 16, true);
+    label4_->setFont(ui::police(QStringLiteral("DejaVu Serif"), 16, true));
+    label13_ = label(r_label13, {}, 14, true);
+    label13_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label(r_label10, QStringLiteral("<-- Saisisez le nom du client et les éventuelles prestations"),
+          8);
+    label(r_label11,
+          QStringLiteral("Cliquez sur les heures pour saisir l'heure de départ et sur "
+                         "les points gris pour saisir les minutes --->"),
+          8);
+    label(r_label12,
+          QStringLiteral("<-- Cliquez sur les prestations pour les ajouter dans le "
+                         "texte et pour calculer le temps total des prestations."),
+          8);
+    label(r_label6, QStringLiteral("Durée du rendez-vous"), 8);
+
+    text1_ = new QPlainTextEdit(this);
+    ui::place(*text1_, r_text1);
+    text1_->setFont(police(11));
+    connect(text1_, &QPlainTextEdit::textChanged, this,
+            [this] { l_.Text1 = ecran_vers_crlf(text1_->toPlainText()); });
+    l_.focus_texte = [this] { text1_->setFocus(); };
+
+    picture1_ = new QLabel(this);
+    ui::place(*picture1_, r_picture1);
+    picture1_->setPixmap(ui::icc::palette(picture1_->size()));
+    picture1_->setCursor(Qt::CrossCursor);
+    picture1_->installEventFilter(this);
+
+    check1_ = new QCheckBox(QStringLiteral("Encadrement"), this);
+    ui::place(*check1_, r_check1);
+    check1_->setFont(police(10));
+    connect(check1_, &QCheckBox::toggled, this, [this](bool oui) { l_.Check1 = oui ? 1 : 0; });
+
+    label15_ = label(r_label15, {}, 10);
+    label15_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    text2_ = new QLineEdit(this);
+    ui::place(*text2_, r_text2);
+    text2_->setFont(police(10));
+    connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
+
+    g1_ = grille(r_g1, int(l_.g1.size()), 2);
+    g1_->setColumnWidth(0, ui::px(3000));
+    g1_->setColumnWidth(1, ui::px(1100));
+    for (int i = 0; i < int(l_.g1.size()); ++i) {
+        g1_->setItem(i, 0, new QTableWidgetItem(l_.g1[std::size_t(i)].nom));
+        g1_->setItem(i, 1, new QTableWidgetItem(l_.g1[std::size_t(i)].minutes));
+        g1_->setRowHeight(i, ui::px(300));
+    }
+    connect(g1_, &QTableWidget::cellClicked, this,
+            [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });
+
+    g2_ = grille(r_g2, 4, 4);
+    for (int r = 0; r < 4; ++r) {
+        g2_->setRowHeight(r, ui::px(410));
+        for (int c = 0; c < 4; ++c) {
+            g2_->setColumnWidth(c, ui::px(490));
+            auto* item = new QTableWidgetItem(QString::fromLatin1(Detarv::g2[r][c]));
+            item->setTextAlignment(Qt::AlignCenter);
+            g2_->setItem(r, c, item);
+        }
+    }
+    connect(g2_, &QTableWidget::cellClicked, this,
+            [this](int r, int c) { appelle([&] { l_.g2_Click(r, c); }); });
+
+    label7_ = new QLineEdit(this);
+    ui::place(*label7_, r_label7);
+    label7_->setFont(police(11, true));
+    connect(label7_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Label7 = t; });
+    connect(label7_, &QLineEdit::editingFinished, this,
+            [this] { appelle([&] { l_.Label7_LostFocus(); }); });
+    label9_ = label(r_label9, {}, 8);
+
+    picture2_ = new ui::VueSurface(this, [this](QSize s) { return ui::icc::horloge(l_.face, s); });
+    ui::place(*picture2_, r_picture2);
+    picture2_->montre(&aiguilles_);
+    for (int i = 0; i < 12; ++i) {
+        for (const bool heure : {true, false}) {
+            auto* b = new QPushButton(picture2_);
+            ui::place(*b, (heure ? l_.sheur : l_.sminu)[std::size_t(i)]);
+            b->setFlat(true);
+            b->setCursor(Qt::PointingHandCursor);
+            b->setStyleSheet(
+                QStringLiteral("QPushButton { background: transparent; border: none; }"));
+            b->setToolTip(heure ? QStringLiteral("%1 h").arg(i)
+                                : QStringLiteral("%1 mn").arg(5 * i));
+            connect(b, &QPushButton::clicked, this, [this, i, heure] {
+                appelle([&] { heure ? l_.sheur_Click(i) : l_.sminu_Click(i); });
+            });
+        }
+    }
+
+    const auto bouton = [&](const RectTwips& r, const QString& t, std::function<void()> f) {
+        auto* b = new QPushButton(t, this);
+        ui::place(*b, r);
+        b->setFont(police(10, true));
+        connect(b, &QPushButton::clicked, this, [this, f] { appelle(f); });
+        return b;
+    };
+    picture3_ = bouton(r_picture3, QStringLiteral("Matin"), [this] { l_.Picture3_Click(); });
+    picture3_->setToolTip(QStringLiteral("Horloge avant midi de 0h00 à 11h00"));
+    picture4_ = bouton(r_picture4, QStringLiteral("Après-midi"), [this] { l_.picture4_Click(); });
+    picture4_->setToolTip(QStringLiteral("Horloge aprés-midi de 12h00 à 23h00"));
+
+    label(r_debut, QStringLiteral("Début"), 9, true);
+    label(r_fin, QStringLiteral("Fin"), 9, true);
+    combos_ = {combo(r_combo1, Detarv::heures(), &Detarv::Combo1, [this] { l_.Combo1_Click(); }),
+               combo(r_combo2, Detarv::minutes(), &Detarv::Combo2, [this] { l_.Combo2_Click(); }),
+               combo(r_combo3, Detarv::heures(), &Detarv::Combo3, [this] { l_.Combo3_Click(); }),
+               combo(r_combo4, Detarv::minutes(), &Detarv::Combo4, [this] { l_.Combo4_Click(); })};
+
+    bouton(r_valid, QStringLiteral("Valider le rendez-vous"), [this] {
+        l_.bt_valid_Click();
+    })->setDefault(false);
+    bouton(r_annul, QStringLiteral("Effacer le rendez-vous"), [this] { l_.bt_annul_Click(); });
+    bouton(r_annull, QStringLiteral("Efface le texte"), [this] { l_.bt_annull_Click(); });
+    bouton(r_corr, QStringLiteral("Changer de date"), [this] { l_.bt_corr_Click(); });
+
+    montre();
+    // Across the middle of the screen, at the top.
+    ui::centre_fenetre(*this);
+    move(x(), 0);
+    ui::pose_cadre_fin(*this);
+    text1_->setFocus();
+}
+
+DetarvVue::~DetarvVue() {
+    l_.focus_texte = nullptr;
+}
+
+bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
+    if (o == picture1_ && e->type() == QEvent::MouseButtonPress) {
+        const QPoint p = static_cast<QMouseEvent*>(e)->position().toPoint();
+        const QImage image = picture1_->pixmap().toImage();
+        if (image.valid(p))
+            appelle([&] { l_.Picture1_MouseDown(ui::bbggrr(image.pixelColor(p))); });
+        return true;
+    }
+    return QDialog::eventFilter(o, e);
+}
+
+// A grid of cells to click, without headers, editing or selection.
+QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes) {
+    auto* g = new QTableWidget(lignes, colonnes, this);
+    ui::place(*g, r);
+    g->horizontalHeader()->hide();
+    g->verticalHeader()->hide();
+    g->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    g->setSelectionMode(QAbstractItemView::NoSelection);
+    g->setFont(ui::police(QStringLiteral("DejaVu Sans"), 9));
+    return g;
+}
+
+QComboBox* DetarvVue::combo(const RectTwips& r, const QStringList& liste, QString Detarv::*champ,
+                            std::function<void()> clic) {
+    auto* c = new QComboBox(this);
+    ui::place(*c, r);
+    c->setEditable(true);
+    c->setInsertPolicy(QComboBox::NoInsert); // typed times do not join the lists
+    c->addItems(liste);
+    c->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
+    connect(c, &QComboBox::editTextChanged, this,
+            [this, champ](const QString& t) { l_.*champ = t; });
+    connect(c, &QComboBox::activated, this, [this, c, champ, clic](int i) {
+        l_.*champ = c->itemText(i);
+        appelle(clic);
+    });
+    champs_.push_back(champ);
+    return c;
+}
+
+void DetarvVue::montre() {
+    const QSignalBlocker b1(text1_), b2(text2_), b3(label7_), b4(check1_);
+    label4_->setText(l_.Label4);
+    label13_->setText(l_.Label13);
+    if (ecran_vers_crlf(text1_->toPlainText()) != l_.Text1) {
+        text1_->setPlainText(crlf_vers_ecran(l_.Text1));
+        text1_->moveCursor(QTextCursor::End);
+    }
+    text1_->setStyleSheet(QStringLiteral("QPlainTextEdit { background: %1; color: black; }")
+                              .arg(ui::couleur(l_.Text1_couleur).name()));
+    check1_->setChecked(l_.Check1 != 0);
+    label15_->setText(crlf_vers_ecran(l_.Label15));
+    label15_->setVisible(!l_.Label15.isEmpty());
+    text2_->setText(l_.Text2);
+    text2_->setVisible(!l_.Label15.isEmpty() || !l_.Text2.isEmpty());
+    label7_->setText(l_.Label7);
+    label9_->setText(l_.Label9);
+    for (std::size_t i = 0; i < combos_.size(); ++i) {
+        const QSignalBlocker b(combos_[i]);
+        combos_[i]->setEditText(l_.*champs_[i]);
+    }
+    const auto fond = [](QPushButton* b, std::int32_t c) {
+        b->setStyleSheet(QStringLiteral("QPushButton { background: %1; border: 1px solid #5a3a22; "
+                                        "border-radius: 4px; }")
+                             .arg(ui::couleur(c).name()));
+    };
+    fond(picture3_, l_.Picture3_fond);
+    fond(picture4_, l_.picture4_fond);
+    aiguilles_.efface();
+    for (const auto& [a, epaisseur] : {std::pair{&l_.aiguilh, 110}, {&l_.aiguilm, 60}}) {
+        aiguilles_.epaisseur(epaisseur);
+        aiguilles_.ligne(int(a->x1), int(a->y1), int(a->x2), int(a->y2), a->couleur);
+    }
+    picture2_->update();
+}
+
+} // namespace agenda

@@ -1,0 +1,22 @@
+#include "ui/vue/boutons.h"
+
+#include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
+
+#include <QToolButton>
+
+namespace agenda::ui {
+
+QToolButton* bouton_image(QWidget& parent, const RectTwips& r, bool oui,
+                          std::function<void()> clic) {
+    auto* b = new QToolButton(&parent);
+    place(*b, r);
+    b->setAutoRaise(true);
+    b->setIcon(icc::bouton(oui, b->size()));
+    b->setIconSize(b->size());
+    b->setToolTip(oui ? QStringLiteral("Oui") : QStringLiteral("Non"));
+    QObject::connect(b, &QToolButton::clicked, b, std::move(clic));
+    return b;
+}
+
+} // namespace agenda::ui

@@ -1,0 +1,68 @@
+#include "ui/vue/vue.h"
+
+#include "ui/erreur.h"
+#include "ui/vue/echelle.h"
+
+#include <vector>
+
+namespace agenda::ui {
+
+namespace {
+// The main window, then each modal window in the order they were opened.
+std::vector<QWidget*>& pile() {
+    static std::vector<QWidget*> p{nullptr};
+    return p;
+}
+QWidget* dessus() {
+    for (auto it = pile().rbegin(); it != pile().rend(); ++it)
+        if (*it) return *it;
+    return nullptr;
+}
+} // namespace
+
+Vue::Vue(Fenetre& logique) : logique_(logique) {
+    logique_.sur_modification = [this] { montre(); };
+}
+
+Vue::~Vue() {
+    logique_.sur_modification = nullptr;
+}
+
+void Vue::appelle(const std::function<void()>& handler) {
+    protege(handler);
+    if (!logique_.fermee()) montre();
+}
+
+void pose_fenetre_principale(QWidget* fenetre) {
+    pile().front() = fenetre;
+}
+
+void au_premier_plan() {
+    for (QWidget* w : pile())
+        if (w) w->raise();
+    if (QWidget* w = dessus()) w->activateWindow();
+}
+
+VueModale::VueModale(FenetreModale& logique, int largeur, int hauteur)
+    : QDialog(dessus(), Qt::Dialog | Qt::FramelessWindowHint), Vue(logique), modale_(logique) {
+    setFixedSize(px(largeur), px(hauteur));
+    setStyleSheet(QStringLiteral("QDialog { background: #fbf6e8; } QLabel { color: #4a2c1a; }"));
+    modale_.sur_fermeture = [this] { accept(); };
+}
+
+VueModale::~VueModale() {
+    modale_.sur_fermeture = nullptr;
+}
+
+void VueModale::ouvre() {
+    pile().push_back(this);
+    exec();
+    pile().pop_back();
+}
+
+void VueModale::reject() {
+    // Escape, or QDialog's close event: the window stays open unless sortie() closes it.
+    appelle([this] { modale_.sortie(); });
+}
+
+} // namespace agenda::ui

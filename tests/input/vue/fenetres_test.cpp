@@ -1,0 +1,143 @@
+// The real widgets of the windows, offscreen: each belongs to the window that opened it, and
+// the keyboard and the window's close reach the same handlers as the buttons.
+
+#include "book/vue/torva1_vue.h"
+#include "editor/inter.h"
+#include "editor/vue/detarv_vue.h"
+#include "input/vue/date_97_vue.h"
+#include "input/vue/mini_97_vue.h"
+#include "support/livre.h"
+#include "ui/dates.h"
+#include "ui/systeme.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace agenda;
+
+namespace {
+
+class Fenetres : public agenda::test::Livre {
+protected:
+    void SetUp() override {
+        Livre::SetUp();
+        ui::enregistre_vue<Mini97, Mini97Vue>();
+        ui::enregistre_vue<Date97, Date97Vue>();
+        ui::enregistre_vue<Detarv, DetarvVue>();
+    }
+    // Acts on the next modal window as soon as it is shown (its load may yield to the event
+    // loop before it is).
+    static void puis(std::function<void(QDialog&)> geste) {
+        QWidget* avant = QApplication::activeModalWidget();
+        auto* attente = new QTimer;
+        QObject::connect(attente, &QTimer::timeout, [attente, avant, geste] {
+            auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!d || d == avant) return;
+            attente->stop();
+            attente->deleteLater();
+            geste(*d);
+        });
+        attente->start(5);
+    }
+    static QPushButton* bouton(QDialog& d, const char* texte) {
+        for (auto* b : d.findChildren<QPushButton*>())
+            if (b->text() == QString::fromUtf8(texte)) return b;
+        ADD_FAILURE() << texte;
+        return nullptr;
+    }
+    static void touche(QWidget& w, int touche) {
+        QKeyEvent appui(QEvent::KeyPress, touche, Qt::NoModifier);
+        QApplication::sendEvent(&w, &appui);
+    }
+};
+
+} // namespace
+
+TEST_F(Fenetres, EchapEtFermetureDeLaBoitePassentParLeBoutonNon) {
+    for (const bool echap : {true, false}) {
+        puis([echap](QDialog& d) {
+            auto* texte = d.findChild<QPlainTextEdit*>();
+            ASSERT_NE(texte, nullptr);
+            texte->setPlainText(QStringLiteral("Du\npont"));
+            EXPECT_EQ(texte->toPlainText(), QStringLiteral("Du pont"));
+            echap ? touche(d, Qt::Key_Escape) : void(d.close());
+        });
+        EXPECT_EQ(demande(QStringLiteral("Nom ?|Dupont"), 129), 7);
+        EXPECT_EQ(etat.mini_texte, QStringLiteral("Du pont"));
+    }
+}
+
+TEST_F(Fenetres, LeCalendrierPrendLeJourChoisiAuClavier) {
+    puis([](QDialog& d) {
+        auto* mois = d.findChild<QCalendarWidget*>();
+        ASSERT_NE(mois, nullptr);
+        EXPECT_EQ(mois->selectedDate(), QDate(2004, 3, 3));
+        touche(*mois->findChild<QTableView*>(), Qt::Key_Right);
+        d.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly).at(0)->click(); // Oui
+    });
+    Date97 choix;
+    ui::montre_modal(choix);
+    EXPECT_EQ(etat.texte_retour, QStringLiteral("Jeudi 04 mars 2004"));
+    EXPECT_EQ(etat.date_courante, ui::date_de(QDate(2004, 3, 4)));
+
+    puis([](QDialog& d) { d.close(); });
+    Date97 annule;
+    ui::montre_modal(annule);
+    EXPECT_TRUE(etat.texte_retour.isEmpty());
+}
+
+TEST_F(Fenetres, ChaqueFenetreAppartientACelleQuiLOuvreEtLeLivreNePasseJamaisDessus) {
+    ASSERT_EQ(charge(), -1);
+    Torva1Vue vue(*livre);
+    vue.show();
+    QWidget* editeur = nullptr;
+    QWidget* question = nullptr;
+    puis([&](QDialog& d) {
+        editeur = &d;
+        EXPECT_EQ(d.parentWidget(), &vue);
+        touche(d, Qt::Key_Escape); // refused: the editor's buttons are its ways out
+        d.close();
+        EXPECT_TRUE(d.isVisible());
+        puis([&](QDialog& q) {
+            question = &q;
+            EXPECT_EQ(q.parentWidget(), editeur);
+            livre->Timer3.start(0); // the book to the front, under the windows it opened
+            QApplication::processEvents();
+            EXPECT_TRUE(q.isVisible());
+            EXPECT_EQ(QApplication::activeModalWidget(), &q);
+            touche(q, Qt::Key_Escape);
+        });
+        bouton(d, "Efface le texte")->click();
+        EXPECT_EQ(etat.mini_mode, 7);
+        bouton(d, "Effacer le rendez-vous")->click(); // a new appointment: the way out
+    });
+    livre->pageg_MouseDown(2000, 3700 + 10);
+    EXPECT_NE(editeur, nullptr);
+    EXPECT_NE(question, nullptr);
+}
+
+TEST_F(Fenetres, FermerLeLivreLanceLeRetourCommeEchap) {
+    ecrit_inter(QStringLiteral("TORVA:RETOUR"), QStringLiteral("caisse --menu"));
+    ASSERT_EQ(charge(), -1);
+    QStringList lances;
+    ui::fixe_lanceur([&](const QString& l) {
+        lances << l;
+        return true;
+    });
+    Torva1Vue vue(*livre);
+    vue.show();
+    int code = -1;
+    try {
+        vue.close();
+    } catch (const agenda::test::FinDemandee& f) {
+        code = f.code;
+    }
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(lances, QStringList{QStringLiteral("caisse --menu")});
+}

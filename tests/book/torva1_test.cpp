@@ -105,19 +105,35 @@ TEST_F(Chargement, LeTroisiemeMinuteurRameneLaFenetreDevant) {
     EXPECT_EQ(devant, 1);
 }
 
-TEST_F(Chargement, SansListeDesCollaborateursLeProgrammeSArrete) {
-    QFile::remove(QStringLiteral("lien_agenda.txt"));
-    EXPECT_THROW(livre->charge(), Erreur);
+TEST_F(Chargement, CeQuiArreteLeProgrammeAuChargement) {
+    struct Cas {
+        const char* heures; // "TORVA:HEURE", or nullptr for a folder without its list
+        const char* message;
+    };
+    for (const Cas c : {Cas{nullptr, "lien_agenda.txt"},
+                        {"12:12:19:020", "la page du matin n'a aucune heure"},
+                        {"07:19:19:020", "la page de l'après-midi n'a aucune heure"}}) {
+        if (c.heures)
+            ecrit_param(QStringLiteral("TORVA:HEURE"), QString::fromLatin1(c.heures));
+        else
+            QFile::rename(QStringLiteral("lien_agenda.txt"), QStringLiteral("lien.bak"));
+        try {
+            livre->charge();
+            ADD_FAILURE() << c.message;
+        } catch (const Erreur& e) {
+            EXPECT_TRUE(e.message().contains(QString::fromUtf8(c.message))) << e.what();
+        }
+        QFile::rename(QStringLiteral("lien.bak"), QStringLiteral("lien_agenda.txt"));
+    }
 }
 
-TEST_F(Chargement, UnePremiereHeureEgaleALaRuptureArreteLeProgramme) {
-    ecrit_param(QStringLiteral("TORVA:HEURE"), QStringLiteral("12:12:19:020"));
-    try {
-        livre->charge();
-        FAIL();
-    } catch (const Erreur& e) {
-        EXPECT_TRUE(e.message().contains(QStringLiteral("TORVA:HEURE")));
-    }
+TEST_F(Chargement, UnFichierIlliblePasseSonEtapeDansLaVueDuJour) {
+    charge();
+    canal_fichier(canal::rv).ferme(); // the scan and the labels fail
+    etat.date_courante += 1;
+    EXPECT_NO_THROW(livre->sel_onglet(0));
+    EXPECT_EQ(livre->Label3, QStringLiteral("04")); // the date panel was still written
+    EXPECT_TRUE(livre->lrv.empty());
 }
 
 TEST_F(Chargement, LaFinFermeLesFichiersEtLanceLeRetour) {

@@ -4,6 +4,7 @@
 #include "data/fichier_records.h"
 #include "data/param.h"
 #include "editor/detarv.h"
+#include "data/dossier.h"
 #include "editor/inter.h"
 #include "input/date_97.h"
 #include "input/mini_97.h"
@@ -338,4 +339,69 @@ TEST_F(Editeur, LesClicsDePageEtLeursBornes) {
     heures.clear();
     livre->lrv_Click(0); // the template is not a label on show
     EXPECT_TRUE(heures.empty());
+}
+
+TEST_F(Editeur, UnEnregistrementAbimeNeSauteQueSonEtape) {
+    struct Cas {
+        const char* nom;
+        std::function<void()> abime;
+        std::function<void(Detarv&)> verifie;
+    };
+    const auto rendez_vous_du_client = [this](std::int32_t client) {
+        return [this, client] {
+            ecrit(rv, rv_entete(1) + rv_vierge()
+                                           .texte(0, 20, "040303:09H00:09H45")
+                                           .texte(20, 402, "Abime")
+                                           .i32(438, client)
+                                           .i32(446, 0xC0FFC0)
+                                           .texte(490, 20, "0611223344")
+                                           .texte(510, 2, "\r\n")
+                                           .octets());
+            etat.num_rv = 1;
+        };
+    };
+    const auto charge_sans_client = [](Detarv& d) {
+        EXPECT_TRUE(d.Label15.isEmpty());
+        EXPECT_EQ(d.Text1, QStringLiteral("Abime"));
+        EXPECT_EQ(d.Label7, QStringLiteral("45")); // the steps after the client's still ran
+        EXPECT_EQ(d.Text1_couleur, 0xC0FFC0);
+        EXPECT_EQ(d.Label8, QStringLiteral("0611223344          "));
+    };
+    for (const Cas& c : std::vector<Cas>{
+             {"un client au-delà de 16 bits", rendez_vous_du_client(70000), charge_sans_client},
+             {"un client négatif", rendez_vous_du_client(-3), charge_sans_client},
+             {"une couleur d'aiguille qui déborde",
+              [] {
+                  ecrit_param(QStringLiteral("TORVA:HORL"),
+                              QStringLiteral("1    |H|99999999999          +|M|65280"));
+              },
+              [](Detarv& d) {
+                  EXPECT_EQ(d.aiguilh.couleur, 0x000080); // as designed
+                  EXPECT_EQ(d.aiguilm.couleur, 65280);
+                  EXPECT_EQ(d.face, 1);
+              }},
+             {"la dernière heure du jour cliquée", [] { etat.heure_clic = 23; },
+              [](Detarv& d) {
+                  EXPECT_EQ(d.Combo1, QStringLiteral("23"));
+                  EXPECT_EQ(d.Combo3, QStringLiteral("23")); // the end follows the duration
+                  EXPECT_EQ(d.Combo4, QStringLiteral("30"));
+              }},
+         }) {
+        SCOPED_TRACE(c.nom);
+        etat.num_rv = 0;
+        c.abime();
+        Detarv d;
+        d.Form_Load();
+        c.verifie(d);
+    }
+}
+
+TEST_F(Editeur, LesMinutesDesServicesSontArrondies) {
+    ecrit(QStringLiteral("w_arr104.wdo"),
+          Gabarit(256, 0).i32(105, 1).octets() +
+              Gabarit(256, 0).texte(15, 40, "Soin").texte(113, 101, "7.5").octets());
+    lit_nb_services();
+    Detarv d;
+    d.Form_Load();
+    EXPECT_EQ(d.g1.at(0).minutes, QStringLiteral("8 mn  "));
 }

@@ -24,25 +24,16 @@ class Parametres : public agenda::test::DossierDonnees {};
 
 } // namespace
 
-TEST_F(Parametres, MagasinAbsentOuVideLitLeTexteVide) {
+TEST_F(Parametres, PremiereEcritureReecritureEtNouvelleCle) {
     EXPECT_EQ(lit_valeur_param(QStringLiteral("TORVA:HEURE")), QString());
     EXPECT_EQ(contenu(store).size(), 0);
-}
-
-TEST_F(Parametres, PremiereEcritureDonneEnTeteEtRecord) {
     ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("255"));
     EXPECT_EQ(contenu(store), record_param("", "", 1) + record_param("COUL_RV", "255", 0));
-    EXPECT_EQ(lit_valeur_param(QStringLiteral("COUL_RV")), QStringLiteral("255"));
-}
-
-TEST_F(Parametres, ReecrireUneCleGardeLaLongueurEtLeCompte) {
-    ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("255"));
     ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("  65280"));
     EXPECT_EQ(contenu(store), record_param("", "", 1) + record_param("COUL_RV", "  65280", 0));
     EXPECT_EQ(lit_valeur_param(QStringLiteral("COUL_RV")), QStringLiteral("65280"));
-}
 
-TEST_F(Parametres, LeNouveauRecordReprendLaFinDuRecordUn) {
+    // A new record carries the last byte of record 1 over.
     ecrit(store, record_param("", "", 1, 'Q') + record_param("TORVA:HORL", "1", 0, 'Q'));
     ecrit_param(QStringLiteral("COUL_FERIE"), QStringLiteral("12632256"));
     EXPECT_EQ(contenu(store), record_param("", "", 2, 'Q') +
@@ -50,16 +41,13 @@ TEST_F(Parametres, LeNouveauRecordReprendLaFinDuRecordUn) {
                                   record_param("COUL_FERIE", "12632256", 0, 'Q'));
 }
 
-TEST_F(Parametres, CleNormaliseeA25CaracteresEtSensibleALaCasse) {
+TEST_F(Parametres, CleA25CaracteresValeurVideOuCoupee) {
     ecrit_param(QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXY-un"), QStringLiteral("1"));
     EXPECT_EQ(lit_valeur_param(QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXY-deux")),
               QStringLiteral("1"));
     EXPECT_EQ(lit_valeur_param(QStringLiteral("abcdefghijklmnopqrstuvwxy")), QString());
-}
-
-TEST_F(Parametres, ValeurVideCommeCleAbsenteEtValeurCoupee) {
     ecrit_param(QStringLiteral("DCA:JOUR:PLA"), QString());
-    EXPECT_EQ(contenu(store).mid(144, 106), QByteArray(106, ' '));
+    EXPECT_EQ(contenu(store).mid(2 * 144, 106), QByteArray(106, ' '));
     EXPECT_EQ(lit_valeur_param(QStringLiteral("DCA:JOUR:PLA")), QString());
     ecrit_param(QStringLiteral("DCA:JOUR:PLA"), QString(120, QLatin1Char('7')));
     EXPECT_EQ(lit_valeur_param(QStringLiteral("DCA:JOUR:PLA")).size(), 106);

@@ -1,10 +1,10 @@
 // The editor's flows from the book: a click on the page or on a label opens it, scripted
 // through the modal seam as an operator would work it, and the file is checked byte by byte.
 
+#include "data/dossier.h"
 #include "data/fichier_records.h"
 #include "data/param.h"
 #include "editor/detarv.h"
-#include "data/dossier.h"
 #include "editor/inter.h"
 #include "input/date_97.h"
 #include "input/mini_97.h"
@@ -131,14 +131,6 @@ TEST_F(Editeur, UnServiceDonneSaDuree) {
     EXPECT_EQ(livre->lrvd.at(1).height, 975);
 }
 
-TEST_F(Editeur, SansTexteRienNEstEcritMaisLaFicheOui) {
-    editeur([](Detarv& d) { d.bt_valid_Click(); });
-    clic_14h();
-    EXPECT_EQ(contenu(rv).size(), 0);
-    EXPECT_EQ(contenu(QStringLiteral("wrv181ff.wdo")).size(), 11 * 128);
-    EXPECT_EQ(etat.num_rv, 0);
-}
-
 TEST_F(Editeur, ChangerPuisEffacerGardeLaLongueur) {
     nouveau_14h(QStringLiteral("Mme Durand"));
     // Changed: the hour on the clock, the frame and the colour.
@@ -183,16 +175,21 @@ TEST_F(Editeur, ChangerPuisEffacerGardeLaLongueur) {
     EXPECT_EQ(livre->num_rv_label[1], 2);
 }
 
-TEST_F(Editeur, EffacerUnNouveauFermeSansQuestion) {
+TEST_F(Editeur, SortirSansEnregistrer) {
+    // Without a text "Valider" writes nothing but the slip; "Effacer" on a new one asks nothing.
     repond(2);
-    editeur([](Detarv& d) {
-        d.Text1 = QStringLiteral("pas enregistré");
-        d.bt_annul_Click();
-        EXPECT_TRUE(d.fermee());
-    });
-    clic_14h();
+    for (const bool valider : {true, false}) {
+        editeur([valider](Detarv& d) {
+            if (!valider) d.Text1 = QStringLiteral("pas enregistré");
+            valider ? d.bt_valid_Click() : d.bt_annul_Click();
+            EXPECT_TRUE(d.fermee());
+        });
+        clic_14h();
+        EXPECT_EQ(etat.num_rv, 0);
+    }
     EXPECT_TRUE(questions.isEmpty());
     EXPECT_EQ(contenu(rv).size(), 0);
+    EXPECT_EQ(contenu(QStringLiteral("wrv181ff.wdo")).size(), 11 * 128);
 }
 
 TEST_F(Editeur, DureeHorsLimitesRemplaceeParLaDureeStandard) {
@@ -208,17 +205,6 @@ TEST_F(Editeur, DureeHorsLimitesRemplaceeParLaDureeStandard) {
         const QByteArray octets = contenu(rv);
         EXPECT_EQ(octets.right(512).mid(434, 4), Gabarit(4, 0).i32(0, gardee).octets()) << tapee;
     }
-}
-
-TEST_F(Editeur, UneDureeNulleSeRecalculeAuChargement) {
-    ecrit(rv, rv_entete(1) +
-                  rv_vierge().texte(0, 20, "040303:09H00:09H45").texte(510, 2, "\r\n").octets());
-    etat.num_rv = 1;
-    Detarv d;
-    d.charge_rv();
-    EXPECT_EQ(d.Label7, QStringLiteral("45"));
-    EXPECT_EQ(d.Check2, 0);
-    EXPECT_EQ(d.Label8, QString(20, QLatin1Char(' ')));
 }
 
 TEST_F(Editeur, LeClientDuRendezVous) {
@@ -291,22 +277,6 @@ TEST_F(Editeur, EffacerLeTexte) {
     EXPECT_EQ(contenu(rv).size(), 0);
 }
 
-TEST_F(Editeur, CollaborateurInconnu) {
-    etat.num_collab = 9;
-    Detarv d;
-    d.Form_Load();
-    EXPECT_EQ(d.Label13, QStringLiteral("Collaborateur"));
-}
-
-TEST_F(Editeur, CouleursDesAiguillesDuParametre) {
-    ecrit_param(QStringLiteral("TORVA:HORL"), QStringLiteral("2    |H|255          +|M|65280"));
-    Detarv d;
-    d.Form_Load();
-    EXPECT_EQ(d.face, 2);
-    EXPECT_EQ(d.aiguilh.couleur, 255);
-    EXPECT_EQ(d.aiguilm.couleur, 65280);
-}
-
 TEST_F(Editeur, LesClicsDePageEtLeursBornes) {
     std::vector<int> heures;
     editeur([&](Detarv& d) {
@@ -350,13 +320,13 @@ TEST_F(Editeur, UnEnregistrementAbimeNeSauteQueSonEtape) {
     const auto rendez_vous_du_client = [this](std::int32_t client) {
         return [this, client] {
             ecrit(rv, rv_entete(1) + rv_vierge()
-                                           .texte(0, 20, "040303:09H00:09H45")
-                                           .texte(20, 402, "Abime")
-                                           .i32(438, client)
-                                           .i32(446, 0xC0FFC0)
-                                           .texte(490, 20, "0611223344")
-                                           .texte(510, 2, "\r\n")
-                                           .octets());
+                                         .texte(0, 20, "040303:09H00:09H45")
+                                         .texte(20, 402, "Abime")
+                                         .i32(438, client)
+                                         .i32(446, 0xC0FFC0)
+                                         .texte(490, 20, "0611223344")
+                                         .texte(510, 2, "\r\n")
+                                         .octets());
             etat.num_rv = 1;
         };
     };
@@ -380,6 +350,8 @@ TEST_F(Editeur, UnEnregistrementAbimeNeSauteQueSonEtape) {
                   EXPECT_EQ(d.aiguilm.couleur, 65280);
                   EXPECT_EQ(d.face, 1);
               }},
+             {"un collaborateur inconnu", [] { etat.num_collab = 9; },
+              [](Detarv& d) { EXPECT_EQ(d.Label13, QStringLiteral("Collaborateur")); }},
              {"la dernière heure du jour cliquée", [] { etat.heure_clic = 23; },
               [](Detarv& d) {
                   EXPECT_EQ(d.Combo1, QStringLiteral("23"));

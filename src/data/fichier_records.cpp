@@ -66,19 +66,29 @@ std::int64_t FichierRecords::taille() const {
     return st.st_size;
 }
 
-std::size_t FichierRecords::lit_bloc(std::int64_t r, octets::Tampon buf) const {
+template <class Appel>
+std::size_t FichierRecords::jusqu_au_bout(std::int64_t r, std::size_t taille, bool lecture,
+                                          Appel&& appel) const {
+    // The system may take or give part of the bytes: the call is repeated for the rest.
     const std::int64_t depart = position(r);
-    std::size_t lu = 0;
-    while (lu < buf.size()) {
-        const ssize_t n =
-            disque_en_place->lit(fd_, buf.data() + lu, buf.size() - lu,
-                                 static_cast<off_t>(depart + std::int64_t(lu)), chemin_);
+    std::size_t fait = 0;
+    while (fait < taille) {
+        const ssize_t n = appel(fait, static_cast<off_t>(depart + std::int64_t(fait)));
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) echec(QStringLiteral("lecture"), errno);
-        if (n == 0) break;
-        lu += static_cast<std::size_t>(n);
+        const QString action = lecture ? QStringLiteral("lecture") : QStringLiteral("écriture");
+        if (n < 0) echec(action, errno);
+        if (n == 0 && lecture) break; // the end of the file
+        // A write that takes nothing and reports nothing: the disk is full.
+        if (n == 0) echec(action, ENOSPC);
+        fait += static_cast<std::size_t>(n);
     }
-    return lu;
+    return fait;
+}
+
+std::size_t FichierRecords::lit_bloc(std::int64_t r, octets::Tampon buf) const {
+    return jusqu_au_bout(r, buf.size(), true, [&](std::size_t fait, off_t pos) {
+        return disque_en_place->lit(fd_, buf.data() + fait, buf.size() - fait, pos, chemin_);
+    });
 }
 
 void FichierRecords::lit(std::int64_t r, octets::Tampon buf) const {
@@ -87,18 +97,9 @@ void FichierRecords::lit(std::int64_t r, octets::Tampon buf) const {
 }
 
 void FichierRecords::ecrit(std::int64_t r, octets::TamponLu buf) {
-    const std::int64_t depart = position(r);
-    std::size_t fait = 0;
-    while (fait < buf.size()) {
-        const ssize_t n =
-            disque_en_place->ecrit(fd_, buf.data() + fait, buf.size() - fait,
-                                   static_cast<off_t>(depart + std::int64_t(fait)), chemin_);
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) echec(QStringLiteral("écriture"), errno);
-        // A write that takes nothing and reports nothing: the disk is full.
-        if (n == 0) echec(QStringLiteral("écriture"), ENOSPC);
-        fait += static_cast<std::size_t>(n);
-    }
+    jusqu_au_bout(r, buf.size(), false, [&](std::size_t fait, off_t pos) {
+        return disque_en_place->ecrit(fd_, buf.data() + fait, buf.size() - fait, pos, chemin_);
+    });
 }
 
 namespace {

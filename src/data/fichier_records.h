@@ -54,6 +54,9 @@ public:
 private:
     std::int64_t position(std::int64_t r) const;
     [[noreturn]] void echec(const QString& action, int numero) const;
+    template <class Appel>
+    std::size_t jusqu_au_bout(std::int64_t r, std::size_t taille, bool lecture,
+                              Appel&& appel) const;
 
     int fd_ = -1;
     int longueur_ = 0;

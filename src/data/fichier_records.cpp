@@ -3,8 +3,10 @@
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <fcntl.h>
 #include <QFile>
@@ -100,6 +102,18 @@ void FichierRecords::ecrit(std::int64_t r, octets::TamponLu buf) {
     jusqu_au_bout(r, buf.size(), false, [&](std::size_t fait, off_t pos) {
         return disque_en_place->ecrit(fd_, buf.data() + fait, buf.size() - fait, pos, chemin_);
     });
+}
+
+std::int32_t compte_a_lire(std::int32_t compte, const FichierRecords& f) {
+    return std::int32_t(std::clamp<std::int64_t>(compte, 0, f.records() - 1));
+}
+
+std::int32_t compte_plausible(std::int32_t compte, std::int64_t records) {
+    constexpr std::int64_t avance_toleree = 16;
+    const std::int64_t presents = std::max<std::int64_t>(records - 1, 0);
+    if (compte < 0 || compte > presents + avance_toleree)
+        return std::int32_t(std::min<std::int64_t>(presents, INT32_MAX));
+    return compte;
 }
 
 namespace {

@@ -40,6 +40,8 @@ public:
     int longueur_record() const { return longueur_; }
 
     std::int64_t taille() const; // in bytes, as the file stands now
+    // Records that have bytes in the file, the last one possibly cut short.
+    std::int64_t records() const { return (taille() + longueur_ - 1) / longueur_; }
 
     // Record r (from 1). Bytes the file does not have are left as the caller set them, which
     // is how a read past the end yields the format's blanks and zeros.
@@ -62,6 +64,16 @@ private:
     int longueur_ = 0;
     QString chemin_;
 };
+
+// How far a loop over the records that a header counts may go: the records past the file's
+// end read as blanks and zeros, and can change no result, so a loop stops at the end.
+std::int32_t compte_a_lire(std::int32_t compte, const FichierRecords& f);
+// The count a header may be given for one more record. A count that runs more than a few records
+// past the file's end, or below zero, is damage: it is brought back to the records the file
+// holds, as the header-lag repair would, so that a save never writes far past the end. A count
+// that runs ahead by a few (another workstation between its two writes) stands.
+// `records` is the file's number of records (header included), taken before the header is read.
+std::int32_t compte_plausible(std::int32_t compte, std::int64_t records);
 
 // The fixed channels of the record files, so that any routine can close or reuse a file
 // without holding a handle.

@@ -194,9 +194,9 @@ void Detarv::charge_rv() {
 
 void Detarv::sauve_rv() {
     auto& f = canal_fichier(canal::rv);
-    if (etat.num_rv == 0) etat.num_rv = alloue_numero(f);
-    const std::int64_t numero = std::int64_t(etat.num_rv) + 1;
-    RecRv r = lit_record<RecRv>(f, numero);
+    const bool nouveau = etat.num_rv == 0;
+    if (nouveau) etat.num_rv = alloue_numero(f);
+    RecRv r = lit_record<RecRv>(f, std::int64_t(etat.num_rv) + 1);
     r.pose(RecRv::cle_rv, cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4));
     r.pose(RecRv::texte_rv, sans_blancs(Text1));
     r.pose(RecRv::couleur_rv, Text1_couleur);
@@ -214,7 +214,11 @@ void Detarv::sauve_rv() {
             cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
         r.pose(RecRv::ref_sms, ref_sms_nouvelle);
     }
-    ecrit_record(f, numero, r);
+    // Another workstation drew the same number and wrote first: this one draws again, so that
+    // neither appointment is lost. The record's other fields are those of any empty record.
+    while (nouveau && place_vivante(f, etat.num_rv))
+        etat.num_rv = alloue_numero(f);
+    ecrit_record(f, std::int64_t(etat.num_rv) + 1, r);
 }
 
 void Detarv::bt_valid_Click() {
@@ -385,7 +389,11 @@ void Detarv::g2_Click(int ligne, int colonne) {
 
 void Detarv::remplit_services() {
     g1.clear();
-    for (std::int32_t i = 1; i <= etat.nb_services; ++i) {
+    // Services past the catalogue's end read blank: they are shown, as rows of the grid's
+    // minimum, but a count far past the end costs no more than the file holds.
+    const std::int32_t presents = compte_a_lire(etat.nb_services, canal_fichier(canal::arr));
+    const std::int32_t lignes = std::max(presents, std::min(etat.nb_services, lignes_services));
+    for (std::int32_t i = 1; i <= lignes; ++i) {
         const RecArr s = lit_record<RecArr>(canal::arr, std::int64_t(i) + 1);
         g1.push_back(
             {sans_blancs(s.lit(RecArr::nom_arr)),

@@ -60,12 +60,13 @@ void ouvre_inter() {
         entete.pose(RecInter::cle_inter, marque_init);
         ecrit_record(intlog(), 1, entete);
     }
-    compte_inter = entete.lit(RecInter::nb_inter);
+    compte_inter = compte_a_lire(entete.lit(RecInter::nb_inter), intlog());
 }
 
 std::int32_t ajoute_inter() {
+    const std::int64_t records = intlog().records();
     RecInter entete = lit_record<RecInter>(intlog(), 1);
-    const std::int32_t n = plus_un(entete.lit(RecInter::nb_inter));
+    const std::int32_t n = plus_un(compte_plausible(entete.lit(RecInter::nb_inter), records));
     entete.pose(RecInter::nb_inter, n);
     ecrit_record(intlog(), 1, entete);
     ecrit_record(intlog(), std::int64_t(n) + 1, RecInter{});

@@ -2,6 +2,7 @@
 #include "data/fichier_records.h"
 #include "support/support.h"
 
+#include <QFile>
 #include <QRandomGenerator>
 
 using namespace agenda;
@@ -52,23 +53,28 @@ TEST_F(Clients, UnEnTeteAZeroRecommenceLeFichier) {
     EXPECT_EQ(octets.mid(2048), ancien.octets());
 }
 
-TEST_F(Clients, CreerUnClientApresLe41e) {
-    Gabarit entete(1024);
-    entete.zeros(250, 4).i32(254, 41);
-    ecrit(fichier, entete.octets());
-    ouvre_clients();
-    cree_client();
-    EXPECT_EQ(client_alloue, 42);
-    const QByteArray octets = contenu(fichier);
-    ASSERT_EQ(octets.size(), 43 * 1024);
-    EXPECT_EQ(octets.mid(254, 4), QByteArray("\x2A\0\0\0", 4));
-    EXPECT_EQ(octets.mid(42 * 1024), nouveau("0042", "").octets());
-    EXPECT_EQ(octets.mid(1024, 41 * 1024), QByteArray(41 * 1024, '\0')); // the hole stays
-
-    ecrit(fichier, Gabarit(1024).i32(254, 12344).octets());
-    ouvre_clients();
-    cree_client();
-    EXPECT_EQ(contenu(fichier).mid(12345 * 1024, 15), QByteArray("12345          "));
+TEST_F(Clients, CreerUnClientSelonLEnTete) {
+    struct Cas {
+        std::int32_t dernier;
+        int records; // the file's length, in records
+        std::int32_t alloue;
+        const char* code;
+    };
+    for (const Cas c : {Cas{41, 42, 42, "0042"},
+                        {41, 30, 42, "0042"}, // a few ahead: honoured
+                        {12344, 12345, 12345, "12345"},
+                        {0x20202020, 3, 3, "0003"},
+                        {-1, 2, 2, "0002"}}) { // damage, first use
+        ecrit(fichier, Gabarit(1024).i32(254, c.dernier).octets());
+        QFile(chemin(fichier)).resize(qint64(c.records) * 1024);
+        ouvre_clients();
+        cree_client();
+        EXPECT_EQ(client_alloue, c.alloue) << c.dernier;
+        const QByteArray octets = contenu(fichier);
+        ASSERT_EQ(octets.size(), qint64(c.alloue + 1) * 1024);
+        EXPECT_EQ(octets.mid(254, 4), Gabarit(4).i32(0, c.alloue).octets());
+        EXPECT_EQ(octets.right(1024), nouveau(c.code, "").octets());
+    }
 }
 
 TEST_F(Clients, LesOctetsDuPointDeVenteSontPortesTelsQuels) {

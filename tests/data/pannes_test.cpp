@@ -2,6 +2,7 @@
 // what a failing or short read or write leaves.
 
 #include "clients/client.h"
+#include "data/dossier.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
 #include "data/param.h"
@@ -157,5 +158,47 @@ TEST_F(Pannes, UnDossierALaPlaceDUnFichierNEstPasIntrouvable) {
     } catch (const Erreur& e) {
         EXPECT_EQ(e.message(), QStringLiteral("Erreur d'accès au fichier tf_r0000.wdo "
                                               "(ouverture) : c'est un dossier, pas un fichier."));
+    }
+}
+
+TEST_F(Pannes, UnCompteHostileNeCouteRienEtNAllongeQueDUnRecord) {
+    struct Fichier {
+        const char* nom;
+        int longueur, offset_compte;
+        std::function<void()> operation;
+    };
+    const std::vector<Fichier> fichiers = {
+        {"tf_r0000.wdo", 512, 466,
+         [] {
+             ouvre_rv();
+             charge_journee();
+             alloue_numero(canal_fichier(canal::rv));
+         }},
+        {"WTORV_IA.WDO", 144, 110,
+         [] {
+             lit_valeur_param(QStringLiteral("TORVA:HEURE"));
+             ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("1"));
+         }},
+        {"W_intlog.wdo", 128, 124,
+         [] { ecrit_inter(QStringLiteral("TORVA:RETOUR"), QStringLiteral("x")); }},
+        {"W_CAI038.WDO", 1024, 254,
+         [] {
+             ouvre_clients();
+             cree_client();
+         }},
+    };
+    for (const std::int32_t compte : {0x7FFFFFFF, std::int32_t(0x80000000), -1, 0x20202020}) {
+        for (const Fichier& f : fichiers) {
+            SCOPED_TRACE(QStringLiteral("%1 %2").arg(f.nom).arg(compte).toStdString());
+            agenda::test::Gabarit entete(f.longueur);
+            entete.i32(f.offset_compte, compte);
+            if (QByteArray(f.nom) == "W_intlog.wdo") entete.texte(0, 15, "#INIT#");
+            const QByteArray avant =
+                entete.octets() + QByteArray(f.longueur, 'x') + QByteArray(f.longueur, 'y');
+            ecrit(QString::fromLatin1(f.nom), avant);
+            etape([&] { f.operation(); }); // a clean error (an overflow) is a result too
+            EXPECT_LE(contenu(QString::fromLatin1(f.nom)).size(), avant.size() + f.longueur);
+            ferme_tous_les_canaux();
+        }
     }
 }

@@ -350,6 +350,13 @@ TEST_F(Editeur, UnEnregistrementAbimeNeSauteQueSonEtape) {
                   EXPECT_EQ(d.aiguilm.couleur, 65280);
                   EXPECT_EQ(d.face, 1);
               }},
+             {"un catalogue qui se dit de 2^31 services",
+              [this] {
+                  ecrit(QStringLiteral("w_arr104.wdo"),
+                        Gabarit(256, 0).i32(105, 0x7FFFFFFF).octets());
+                  lit_nb_services();
+              },
+              [](Detarv& d) { EXPECT_EQ(d.g1.size(), 50u); }},
              {"un collaborateur inconnu", [] { etat.num_collab = 9; },
               [](Detarv& d) { EXPECT_EQ(d.Label13, QStringLiteral("Collaborateur")); }},
              {"la dernière heure du jour cliquée", [] { etat.heure_clic = 23; },

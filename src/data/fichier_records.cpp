@@ -30,6 +30,10 @@ ssize_t Disque::ecrit(int fd, const void* octets, std::size_t n, off_t position,
     return ::pwrite(fd, octets, n, position);
 }
 
+ssize_t Disque::ajoute(int fd, const void* octets, std::size_t n, const QString&) {
+    return ::write(fd, octets, n);
+}
+
 void fixe_disque(Disque* d) {
     disque_en_place = d ? d : &systeme;
 }
@@ -58,8 +62,10 @@ void FichierRecords::ouvre(const QString& chemin, int longueur_record) {
 }
 
 void FichierRecords::ferme() {
-    if (fd_ >= 0) ::close(fd_);
-    fd_ = -1;
+    for (int* fd : {&fd_, &fd_ajout_}) {
+        if (*fd >= 0) ::close(*fd);
+        *fd = -1;
+    }
 }
 
 std::int64_t FichierRecords::taille() const {
@@ -114,6 +120,29 @@ std::int32_t compte_plausible(std::int32_t compte, std::int64_t records) {
     if (compte < 0 || compte > presents + avance_toleree)
         return std::int32_t(std::min<std::int64_t>(presents, INT32_MAX));
     return compte;
+}
+
+std::int64_t FichierRecords::ajoute(octets::TamponLu buf, std::int64_t prevu) {
+    if (taille() % longueur_ != 0) {
+        ecrit(prevu, buf);
+        return prevu;
+    }
+    if (fd_ajout_ < 0) {
+        fd_ajout_ = ::open(QFile::encodeName(chemin_).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
+        if (fd_ajout_ < 0) echec(QStringLiteral("ouverture"), errno);
+    }
+    ssize_t n;
+    do
+        n = disque_en_place->ajoute(fd_ajout_, buf.data(), buf.size(), chemin_);
+    while (n < 0 && errno == EINTR);
+    if (n < 0) echec(QStringLiteral("écriture"), errno);
+    if (n == 0) echec(QStringLiteral("écriture"), ENOSPC);
+    // Where this write ended, and so where the record begins, whatever others appended.
+    const off_t fin = ::lseek(fd_ajout_, 0, SEEK_CUR);
+    if (fin < 0) echec(QStringLiteral("position"), errno);
+    const std::int64_t r = (std::int64_t(fin) - n) / longueur_ + 1;
+    if (std::size_t(n) < buf.size()) ecrit(r, buf); // taken in part: completed in place
+    return r;
 }
 
 namespace {

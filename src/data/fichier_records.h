@@ -20,6 +20,8 @@ public:
     virtual ssize_t lit(int fd, void* octets, std::size_t n, off_t position, const QString& chemin);
     virtual ssize_t ecrit(int fd, const void* octets, std::size_t n, off_t position,
                           const QString& chemin);
+    // A write at the end of the file, on a descriptor opened for appending.
+    virtual ssize_t ajoute(int fd, const void* octets, std::size_t n, const QString& chemin);
 };
 // nullptr gives the system's calls back.
 void fixe_disque(Disque* disque);
@@ -49,6 +51,10 @@ public:
     // One write call for the whole record, completed if the system takes only part of it;
     // past the end it extends the file. A failure throws with the system's reason in French.
     void ecrit(std::int64_t r, octets::TamponLu buf);
+    // One record at the end of the file, in one atomic step: two processes that append at the
+    // same moment put their records one after the other. Returns the record's number. A file
+    // whose length is not whole records gets the record at `prevu` instead.
+    std::int64_t ajoute(octets::TamponLu buf, std::int64_t prevu);
     // Reads as many whole records from r on as fit in buf, in one call; returns the number of
     // bytes read (short at the end of the file).
     std::size_t lit_bloc(std::int64_t r, octets::Tampon buf) const;
@@ -61,6 +67,7 @@ private:
                               Appel&& appel) const;
 
     int fd_ = -1;
+    int fd_ajout_ = -1; // the same file, opened for appending when first needed
     int longueur_ = 0;
     QString chemin_;
 };

@@ -83,28 +83,21 @@ struct DebutCle {
 } // namespace
 
 std::int32_t alloue_numero(FichierRecords& f) {
-    for (;;) {
-        // Nothing between the read and the write of the header, not even a look at the
-        // file's length: another workstation may be drawing at the same moment.
-        const std::int64_t records = f.records();
-        RecRv entete = lit_record<RecRv>(f, 1);
-        const std::int32_t n = plus_un(compte_plausible(entete.lit(RecRv::dernier_num), records));
-        entete.pose(RecRv::dernier_num, n);
-        ecrit_record(f, 1, entete);
-        ui::cede();
-        // The header lagged behind another workstation's appointment: draw again above it.
-        if (place_vivante(f, n)) continue;
-        RecRv vide;
-        vide.pose(RecRv::fin_rec, u"\r\n");
-        ecrit_record(f, std::int64_t(n) + 1, vide);
-        return n;
-    }
-}
-
-bool place_vivante(const FichierRecords& f, std::int32_t n) {
-    const QString cle = lit_record<RecRv>(f, std::int64_t(n) + 1).lit(RecRv::cle_rv);
-    return std::all_of(cle.begin(), cle.begin() + 6,
-                       [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    // Nothing between the read and the write of the header, not even a look at the file's
+    // length: another workstation may be drawing at the same moment.
+    const std::int64_t records = f.records();
+    RecRv entete = lit_record<RecRv>(f, 1);
+    const std::int32_t n = plus_un(compte_plausible(entete.lit(RecRv::dernier_num), records));
+    entete.pose(RecRv::dernier_num, n);
+    ecrit_record(f, 1, entete);
+    ui::cede();
+    // Appended rather than written at n + 1, where it lands when no other workstation is
+    // drawing: two that drew the same number get two places, one after the other, instead of
+    // one over the other. The number is the place the record took; a header left behind is
+    // brought into line by the next day scan.
+    RecRv vide;
+    vide.pose(RecRv::fin_rec, u"\r\n");
+    return en_i32(double(f.ajoute(vide.octets, std::int64_t(n) + 1) - 1));
 }
 
 std::int32_t repare_entete(FichierRecords& f) {

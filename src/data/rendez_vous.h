@@ -14,8 +14,6 @@ class FichierRecords;
 // Raises dernier_num of record 1 and writes an empty record for the new number, which it
 // returns.
 std::int32_t alloue_numero(FichierRecords& f);
-// Whether the place of number n holds a live appointment (a key that starts with a date).
-bool place_vivante(const FichierRecords& f, std::int32_t n);
 
 // Brings a header that lags behind the file's length back into line; returns the count.
 std::int32_t repare_entete(FichierRecords& f);

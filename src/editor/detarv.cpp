@@ -194,8 +194,7 @@ void Detarv::charge_rv() {
 
 void Detarv::sauve_rv() {
     auto& f = canal_fichier(canal::rv);
-    const bool nouveau = etat.num_rv == 0;
-    if (nouveau) etat.num_rv = alloue_numero(f);
+    if (etat.num_rv == 0) etat.num_rv = alloue_numero(f);
     RecRv r = lit_record<RecRv>(f, std::int64_t(etat.num_rv) + 1);
     r.pose(RecRv::cle_rv, cle_rendez_vous(etat.date_courante, Combo1, Combo2, Combo3, Combo4));
     r.pose(RecRv::texte_rv, sans_blancs(Text1));
@@ -214,10 +213,6 @@ void Detarv::sauve_rv() {
             cadre(sans_blancs(Text2), 10) + motif_jour(etat.date_courante) + Combo1 + Combo2;
         r.pose(RecRv::ref_sms, ref_sms_nouvelle);
     }
-    // Another workstation drew the same number and wrote first: this one draws again, so that
-    // neither appointment is lost. The record's other fields are those of any empty record.
-    while (nouveau && place_vivante(f, etat.num_rv))
-        etat.num_rv = alloue_numero(f);
     ecrit_record(f, std::int64_t(etat.num_rv) + 1, r);
 }
 

@@ -41,6 +41,11 @@ public:
             ordre << QStringLiteral("%1:%2").arg(chemin).arg(pos / longueur + 1);
         return Disque::ecrit(fd, o, n, pos, chemin);
     }
+    ssize_t ajoute(int fd, const void* o, std::size_t n, const QString& chemin) override {
+        ++ecritures;
+        ordre << chemin + QStringLiteral(":fin");
+        return Disque::ajoute(fd, o, n, chemin);
+    }
     ssize_t lit(int fd, void* o, std::size_t n, off_t pos, const QString& chemin) override {
         if (++lectures == panne_lecture) {
             errno = EIO;
@@ -78,12 +83,12 @@ TEST_F(Pannes, LesEcrituresDansLOrdreQueLesAutresPostesAttendent) {
         QStringList ordre;
     };
     for (const Cas& c : std::vector<Cas>{
-             {"un numéro : l'en-tête, puis l'enregistrement vide",
+             {"un numéro : l'en-tête, puis l'enregistrement vide à la fin",
               [] {
                   canal_fichier(canal::rv).ouvre(QStringLiteral("tf_r0000.wdo"), 512);
                   alloue_numero(canal_fichier(canal::rv));
               },
-              {"tf_r0000.wdo:1", "tf_r0000.wdo:2"}},
+              {"tf_r0000.wdo:1", "tf_r0000.wdo:fin"}},
              {"une clé nouvelle : l'en-tête compté, puis la clé",
               [] { ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("255")); },
               {"WTORV_IA.WDO:1", "WTORV_IA.WDO:2"}},

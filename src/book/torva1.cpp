@@ -209,9 +209,13 @@ void Torva1::clic_page(int b, int x, int y) {
     const bool dans_la_regle = x >= t[b + gauche] - 200 && x < t[b + gauche] + t[b + largeur] &&
                                y >= t[b + haut] && y < t[b + haut] + t[b + hauteur];
     if (!dans_la_regle) return;
-    // Only the whole hour goes to the editor.
-    etat.heure_clic =
-        static_cast<std::int16_t>(t[b + heure_premiere] + (y - t[b + haut]) / t[b + hauteur_heure]);
+    // Only the whole hour goes to the editor. Hours out of all reason can leave an hour no
+    // height: the division by zero ends the program, as nothing traps the click.
+    if (t[b + hauteur_heure] == 0)
+        throw Erreur(QStringLiteral("Division par zéro : les heures "
+                                    "du réglage « TORVA:HEURE » ne "
+                                    "laissent aucune hauteur à une heure."));
+    etat.heure_clic = en_i16(t[b + heure_premiere] + (y - t[b + haut]) / t[b + hauteur_heure]);
     Detarv editeur;
     ui::montre_modal(editeur);
     affiche_rv();
@@ -249,7 +253,9 @@ void Torva1::dessine_agenda(ui::Surface& surface) {
     using namespace slot_page;
     auto& t = table_pages;
     const int b = etat.page_base;
-    t[b + nb_heures] = static_cast<std::int16_t>(t[b + heure_fin] - t[b + heure_premiere]);
+    // Every figure of the table is 16 bits: hours out of all reason overflow, an error that the
+    // view's trap takes.
+    t[b + nb_heures] = en_i16(t[b + heure_fin] - t[b + heure_premiere]);
     // The division by zero ends the program, even from under the traps of the day view.
     if (t[b + nb_heures] == 0)
         throw Erreur::sans_piege(
@@ -260,11 +266,9 @@ void Torva1::dessine_agenda(ui::Surface& surface) {
                 : QStringLiteral("Réglage « TORVA:HEURE » invalide : l'heure de rupture "
                                  "est égale à la dernière heure du jour, la page de "
                                  "l'après-midi n'a aucune heure."));
-    t[b + hauteur_heure] =
-        static_cast<std::int16_t>(std::nearbyint(double(t[b + hauteur]) / t[b + nb_heures]));
+    t[b + hauteur_heure] = en_i16(double(t[b + hauteur]) / t[b + nb_heures]);
     echelle_page = static_cast<float>(t[b + hauteur_heure] / 100.0);
-    t[b + origine] = static_cast<std::int16_t>(
-        std::nearbyint(t[b + haut] - t[b + heure_premiere] * 100 * double(echelle_page)));
+    t[b + origine] = en_i16(t[b + haut] - t[b + heure_premiere] * 100 * double(echelle_page));
     (b == base_gauche ? echelle_g : echelle_d) = echelle_page;
 
     constexpr std::int32_t gris = 0xC0C0C0, gris_clair = 0xE0E0E0;
@@ -287,10 +291,8 @@ void Torva1::dessine_agenda(ui::Surface& surface) {
             surface.ecrit(x1 - 100 - surface.largeur_texte(trente), demi - 120, trente);
         }
         if (t[b + divisions] > 1) {
-            t[b + demi_heure] =
-                static_cast<std::int16_t>(std::nearbyint(t[b + hauteur_heure] / 2.0));
-            t[b + quart_heure] =
-                static_cast<std::int16_t>(std::nearbyint(t[b + hauteur_heure] / 4.0));
+            t[b + demi_heure] = en_i16(t[b + hauteur_heure] / 2.0);
+            t[b + quart_heure] = en_i16(t[b + hauteur_heure] / 4.0);
             surface.style_pointille(true);
             for (const int q : {y + t[b + demi_heure] - t[b + quart_heure],
                                 y + t[b + demi_heure] + t[b + quart_heure]})

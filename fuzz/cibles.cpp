@@ -37,7 +37,7 @@ void ecrit_fichier(const char* nom, const std::uint8_t* octets, std::size_t n) {
 }
 
 // The input as several files: each piece is a 2-byte little-endian length, then its bytes.
-void ecrit_dossier(const std::uint8_t* octets, std::size_t n,
+[[maybe_unused]] void ecrit_dossier(const std::uint8_t* octets, std::size_t n,
                    std::initializer_list<const char*> noms) {
     for (const char* nom : noms) {
         std::size_t lg = 0;
@@ -51,7 +51,7 @@ void ecrit_dossier(const std::uint8_t* octets, std::size_t n,
 }
 
 template <class Rec>
-void aller_retour(const std::uint8_t* octets, std::size_t n) {
+[[maybe_unused]] void aller_retour(const std::uint8_t* octets, std::size_t n) {
     // A record read and written back is the same bytes: nothing of the other programs is lost.
     ecrit_fichier("r.wdo", octets, std::min<std::size_t>(n, Rec::longueur));
     FichierRecords a, b;

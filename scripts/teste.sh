@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs, builds with warnings as errors, runs every test, then again under AddressSanitizer
 # and UndefinedBehaviorSanitizer; builds the logic alone, without Qt Widgets, and runs its tests;
-# then prints the scan benchmark's ratio.
+# runs each fuzzer for a minute under ASan and UBSan; then prints the scan benchmark's ratio.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 bash "$racine/scripts/installe.sh"
@@ -23,5 +23,24 @@ cmake -S "$racine" -B "$racine/build-logique" -G Ninja -DCMAKE_BUILD_TYPE=RelWit
       -DAGENDA_WERROR=ON -DAGENDA_WIDGETS=OFF -DAGENDA_BENCH=OFF
 cmake --build "$racine/build-logique" -j "$jobs"
 (cd "$racine/build-logique" && ctest --output-on-failure -j "$jobs")
+
+# The fuzzers, a minute each, from the seeds laid by hand and every input a fuzzer ever found.
+CC=clang CXX=clang++ cmake -S "$racine" -B "$racine/build-fuzz" -G Ninja \
+      -DCMAKE_BUILD_TYPE=RelWithDebInfo -DAGENDA_FUZZ=ON -DAGENDA_SANITIZE=ON \
+      -DAGENDA_WIDGETS=OFF -DAGENDA_BENCH=OFF
+cibles=(formats jour param messages clients dossier)
+cmake --build "$racine/build-fuzz" -j "$jobs" --target "${cibles[@]/#/fuzz_}"
+python3 "$racine/fuzz/graines.py" "$racine/build-fuzz/graines"
+for c in "${cibles[@]}"; do
+    journal="$racine/build-fuzz/fuzz_$c.log"
+    if ! ASAN_OPTIONS=detect_leaks=0 "$racine/build-fuzz/fuzz/fuzz_$c" -print_final_stats=1 \
+            -max_total_time="${FUZZ_SECONDES:-60}" -artifact_prefix="$racine/build-fuzz/" \
+            "$racine/build-fuzz/graines/$c" "$racine/fuzz/regressions/$c" > "$journal" 2>&1; then
+        tail -40 "$journal"
+        echo "fuzz_$c : défaut trouvé (l'entrée est dans build-fuzz/)"
+        exit 1
+    fi
+    grep -E "^Done" "$journal" | sed "s/^/fuzz_$c : /"
+done
 
 "$racine/build-test/bench/agenda_bench" --benchmark_min_time=0.2

@@ -53,7 +53,9 @@ void lit_clavier_ecran() {
     f.ouvre(QStringLiteral("w_cai020.wdo"), RecTxt20::longueur);
     const auto r = lit_record<RecTxt20>(f, record_clavier_ecran);
     f.ferme();
-    etat.clavier_ecran = en_i16(val(r.lit(RecTxt20::texte)));
+    etat.clavier_ecran =
+        en_i16(val(r.lit(RecTxt20::texte)),
+               QStringLiteral("l'enregistrement 42 de w_cai020.wdo, écran tactile"));
 }
 
 void lit_nb_services() {

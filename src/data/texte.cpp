@@ -10,23 +10,25 @@ namespace agenda {
 namespace {
 
 template <class Entier>
-Entier en_entier(double v) {
+Entier en_entier(double v, const QString& quoi) {
     const double r = std::nearbyint(v);
     // Written so that a NaN fails too.
     if (!(r >= double(std::numeric_limits<Entier>::min()) &&
           r <= double(std::numeric_limits<Entier>::max())))
-        throw Erreur(QStringLiteral("Dépassement de capacité (%1).").arg(v));
+        throw Erreur(quoi.isEmpty()
+                         ? QStringLiteral("Dépassement de capacité (%1).").arg(v)
+                         : QStringLiteral("Dépassement de capacité : %1 (%2).").arg(quoi).arg(v));
     return static_cast<Entier>(r);
 }
 
 } // namespace
 
-std::int16_t en_i16(double v) {
-    return en_entier<std::int16_t>(v);
+std::int16_t en_i16(double v, const QString& quoi) {
+    return en_entier<std::int16_t>(v, quoi);
 }
 
-std::int32_t en_i32(double v) {
-    return en_entier<std::int32_t>(v);
+std::int32_t en_i32(double v, const QString& quoi) {
+    return en_entier<std::int32_t>(v, quoi);
 }
 
 std::int32_t plus_un(std::int32_t n) {

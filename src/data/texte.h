@@ -9,8 +9,9 @@ namespace agenda {
 
 // A number stored into a 16-bit or 32-bit integer, rounded half to even as the language does.
 // Out of range, or not a number, it is an overflow error (Erreur).
-std::int16_t en_i16(double v);
-std::int32_t en_i32(double v);
+// `quoi` names the value for the operator, where the error ends the program.
+std::int16_t en_i16(double v, const QString& quoi = {});
+std::int32_t en_i32(double v, const QString& quoi = {});
 // A count read from a file, plus one; past the largest 32-bit value it is an overflow error.
 std::int32_t plus_un(std::int32_t n);
 

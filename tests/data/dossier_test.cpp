@@ -29,12 +29,20 @@ TEST_F(Dossier, FichiersDuCollaborateurCreesALOuverture) {
 
 TEST_F(Dossier, DrapeauEcranTactileDuRecord42) {
     for (const auto& [texte, records, attendu] :
-         {std::tuple{"1", 42, 1}, {"12abc", 42, 12}, {"", 42, 0}, {"5", 41, 0}}) {
+         {std::tuple{"1", 42, 1},
+          {"12abc", 42, 12},
+          {"", 42, 0},
+          {"5", 41, 0},
+          {"99999", 42, -1}}) { // -1: an overflow, which ends the program
         QByteArray octets;
         for (int r = 1; r < records; ++r)
             octets += Gabarit(20).texte(0, 20, "99").octets();
         if (records == 42) octets += Gabarit(20).texte(0, 20, texte).octets();
         ecrit(QStringLiteral("w_cai020.wdo"), octets);
+        if (attendu < 0) {
+            EXPECT_THROW(lit_clavier_ecran(), Erreur);
+            continue;
+        }
         lit_clavier_ecran();
         EXPECT_EQ(etat.clavier_ecran, attendu) << texte << " " << records;
         EXPECT_EQ(contenu(QStringLiteral("w_cai020.wdo")), octets); // never written

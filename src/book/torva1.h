@@ -3,6 +3,7 @@
 // Handlers keep the names of the window's controls and events.
 
 #include "data/etat.h"
+#include "ui/geometrie.h"
 #include "ui/modale.h"
 #include "ui/surface.h"
 
@@ -77,6 +78,20 @@ public:
     void paged_MouseDown(int x, int y);
     void lrv_Click(int i);
     void lrvd_Click(int i) { lrv_Click(i); }
+
+    // Where the controls stand, in twips: the two pages and the spine between them as the load
+    // places them, the tabs on the edges, the date panel and the arrows on the pages.
+    static constexpr ui::RectTwips pageg_rect{600, 0, 6600, 10950},
+        paged_rect{8100, 0, 6600, 10950}, Picture1_rect{7200, 0, 900, 10950};
+    static constexpr ui::RectTwips onglet_rect(bool gauche, int i) {
+        return {gauche ? 0 : 14700, 500 + i * 1550, gauche ? 600 : 660, 1450};
+    }
+    static constexpr ui::RectTwips Label2_rect{800, 300, 2700, 500},
+        Label3_rect{800, 800, 2700, 1300}, Label4_rect{800, 2150, 2700, 500},
+        Label1_rect{800, 2700, 2700, 450}, calend_rect{3500, 250, 2900, 3100};
+    static constexpr ui::RectTwips Label7_rect{800, 250, 5400, 600};
+    static constexpr ui::RectTwips Picture2_rect{800, 10300, 600, 500},
+        Picture3_rect{5600, 10300, 600, 500};
 
     // What the window shows.
     std::array<std::int16_t, 51> table_pages{};

@@ -64,6 +64,32 @@ public:
     static QStringList heures();
     static QStringList minutes();
 
+    // Where the controls stand, in twips of the window.
+    static constexpr int largeur = 14400, hauteur = 10200;
+    static constexpr ui::RectTwips Label4_rect{400, 250, 7000, 550},
+        Label13_rect{7600, 250, 6400, 550};
+    static constexpr ui::RectTwips Label10_rect{400, 850, 6700, 300},
+        Text1_rect{400, 1200, 6700, 2300};
+    static constexpr ui::RectTwips Picture1_rect{400, 3600, 4900, 450},
+        Check1_rect{5500, 3600, 1600, 450};
+    static constexpr ui::RectTwips Label15_rect{400, 4200, 6700, 1250},
+        Text2_rect{2000, 5100, 2300, 330};
+    static constexpr ui::RectTwips g1_rect{400, 5700, 4500, 3700}, g2_rect{5100, 5700, 2000, 1700};
+    static constexpr ui::RectTwips Label6_rect{5100, 7550, 2000, 300},
+        Label7_rect{5100, 7900, 1100, 420}, Label9_rect{6300, 7900, 800, 420};
+    static constexpr ui::RectTwips Label12_rect{400, 9450, 6700, 500};
+    static constexpr ui::RectTwips Label11_rect{7600, 850, 6400, 500},
+        Picture2_rect{7500, 1400, ui::horloge_largeur, ui::horloge_hauteur};
+    static constexpr ui::RectTwips Picture3_rect{12700, 1600, 1400, 480},
+        picture4_rect{12700, 2150, 1400, 480};
+    static constexpr ui::RectTwips debut_rect{12700, 3000, 1400, 300},
+        Combo1_rect{12700, 3300, 680, 420}, Combo2_rect{13420, 3300, 680, 420};
+    static constexpr ui::RectTwips fin_rect{12700, 3900, 1400, 300},
+        Combo3_rect{12700, 4200, 680, 420}, Combo4_rect{13420, 4200, 680, 420};
+    static constexpr ui::RectTwips bt_valid_rect{7600, 6800, 3100, 650},
+        bt_annul_rect{10900, 6800, 3100, 650}, bt_annull_rect{7600, 7650, 3100, 650},
+        bt_corr_rect{10900, 7650, 3100, 650};
+
     // The controls.
     QString Label4;                                    // the date in words
     QString Label13 = QStringLiteral("Collaborateur"); // the collaborator

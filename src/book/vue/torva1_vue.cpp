@@ -17,14 +17,6 @@ namespace agenda {
 
 namespace {
 
-constexpr ui::RectTwips page_gauche{600, 0, 6600, 10950};
-constexpr ui::RectTwips page_droite{8100, 0, 6600, 10950};
-constexpr ui::RectTwips reliure{7200, 0, 900, 10950};
-
-ui::RectTwips onglet(bool gauche, int i) {
-    return {gauche ? 0 : 14700, 500 + i * 1550, gauche ? 600 : 660, 1450};
-}
-
 QString teinte(std::int32_t bbggrr) {
     return ui::couleur(bbggrr).name();
 }
@@ -43,8 +35,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
 
     pageg_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, true); });
     paged_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, false); });
-    ui::place(*pageg_, page_gauche);
-    ui::place(*paged_, page_droite);
+    ui::place(*pageg_, Torva1::pageg_rect);
+    ui::place(*paged_, Torva1::paged_rect);
     pageg_->sur_clic = [this](int x, int y) {
         if (l_.vue_visible == 0) apres_le_clic([this, x, y] { l_.pageg_MouseDown(x, y); });
     };
@@ -52,13 +44,13 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
         if (l_.vue_visible == 0) apres_le_clic([this, x, y] { l_.paged_MouseDown(x, y); });
     };
     auto* picture1 = new QLabel(this);
-    ui::place(*picture1, reliure);
+    ui::place(*picture1, Torva1::Picture1_rect);
     picture1->setPixmap(ui::icc::reliure(picture1->size()));
 
     for (int i = 0; i < Torva1::nb_onglets; ++i) {
         for (const bool gauche : {true, false}) {
             auto* b = new QPushButton(this);
-            ui::place(*b, onglet(gauche, i));
+            ui::place(*b, Torva1::onglet_rect(gauche, i));
             b->setFlat(true);
             b->setCursor(Qt::PointingHandCursor);
             b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
@@ -71,14 +63,14 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     }
 
     const auto gauche_haut = Qt::AlignLeft | Qt::AlignVCenter;
-    label2_ = texte(pageg_, {800, 300, 2700, 500}, 18, false, gauche_haut);
-    label3_ = texte(pageg_, {800, 800, 2700, 1300}, 54, true, gauche_haut);
-    label4_ = texte(pageg_, {800, 2150, 2700, 500}, 18, false, gauche_haut);
-    label1_ = texte(pageg_, {800, 2700, 2700, 450}, 14, false, gauche_haut);
-    label7_ = texte(paged_, {800, 250, 5400, 600}, 20, true, Qt::AlignCenter);
+    label2_ = texte(pageg_, Torva1::Label2_rect, 18, false, gauche_haut);
+    label3_ = texte(pageg_, Torva1::Label3_rect, 54, true, gauche_haut);
+    label4_ = texte(pageg_, Torva1::Label4_rect, 18, false, gauche_haut);
+    label1_ = texte(pageg_, Torva1::Label1_rect, 14, false, gauche_haut);
+    label7_ = texte(paged_, Torva1::Label7_rect, 20, true, Qt::AlignCenter);
 
     calend_ = new QCalendarWidget(pageg_);
-    ui::place(*calend_, {3500, 250, 2900, 3100});
+    ui::place(*calend_, Torva1::calend_rect);
     calend_->setLocale(QLocale(QLocale::French, QLocale::France));
     calend_->setFirstDayOfWeek(Qt::Monday);
     calend_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
@@ -97,8 +89,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
         b->setToolTip(gauche ? QStringLiteral("Jour précédent") : QStringLiteral("Jour suivant"));
         return b;
     };
-    picture2_ = fleche(pageg_, {800, 10300, 600, 500}, true);
-    picture3_ = fleche(paged_, {5600, 10300, 600, 500}, false);
+    picture2_ = fleche(pageg_, Torva1::Picture2_rect, true);
+    picture3_ = fleche(paged_, Torva1::Picture3_rect, false);
     connect(picture2_, &QToolButton::clicked, this,
             [this] { appelle([&] { l_.Picture2_Click(); }); });
     connect(picture3_, &QToolButton::clicked, this,

@@ -21,25 +21,6 @@ namespace {
 
 using ui::RectTwips;
 
-// The window, in twips.
-constexpr int largeur = 14400, hauteur = 10200;
-constexpr RectTwips r_label4{400, 250, 7000, 550}, r_label13{7600, 250, 6400, 550};
-constexpr RectTwips r_label10{400, 850, 6700, 300}, r_text1{400, 1200, 6700, 2300};
-constexpr RectTwips r_picture1{400, 3600, 4900, 450}, r_check1{5500, 3600, 1600, 450};
-constexpr RectTwips r_label15{400, 4200, 6700, 1250}, r_text2{2000, 5100, 2300, 330};
-constexpr RectTwips r_g1{400, 5700, 4500, 3700}, r_g2{5100, 5700, 2000, 1700};
-constexpr RectTwips r_label6{5100, 7550, 2000, 300}, r_label7{5100, 7900, 1100, 420},
-    r_label9{6300, 7900, 800, 420};
-constexpr RectTwips r_label12{400, 9450, 6700, 500};
-constexpr RectTwips r_label11{7600, 850, 6400, 500}, r_picture2{7500, 1400, 5030, 5040};
-constexpr RectTwips r_picture3{12700, 1600, 1400, 480}, r_picture4{12700, 2150, 1400, 480};
-constexpr RectTwips r_debut{12700, 3000, 1400, 300}, r_combo1{12700, 3300, 680, 420},
-    r_combo2{13420, 3300, 680, 420};
-constexpr RectTwips r_fin{12700, 3900, 1400, 300}, r_combo3{12700, 4200, 680, 420},
-    r_combo4{13420, 4200, 680, 420};
-constexpr RectTwips r_valid{7600, 6800, 3100, 650}, r_annul{10900, 6800, 3100, 650},
-    r_annull{7600, 7650, 3100, 650}, r_corr{10900, 7650, 3100, 650};
-
 QString crlf_vers_ecran(QString s) {
     return s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
@@ -49,7 +30,7 @@ QString ecran_vers_crlf(QString s) {
 
 } // namespace
 
-DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
+DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur), l_(l) {
     const auto police = [](double pts, bool gras = false) {
         return ui::police(QStringLiteral("DejaVu Sans"), pts, gras);
     };
@@ -61,48 +42,48 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
         return w;
     };
 
-    label4_ = label(r_label4, {}, 16, true);
+    label4_ = label(Detarv::Label4_rect, {}, 16, true);
     label4_->setFont(ui::police(QStringLiteral("DejaVu Serif"), 16, true));
-    label13_ = label(r_label13, {}, 14, true);
+    label13_ = label(Detarv::Label13_rect, {}, 14, true);
     label13_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label(r_label10, QStringLiteral("<-- Saisisez le nom du client et les éventuelles prestations"),
-          8);
-    label(r_label11,
+    label(Detarv::Label10_rect,
+          QStringLiteral("<-- Saisisez le nom du client et les éventuelles prestations"), 8);
+    label(Detarv::Label11_rect,
           QStringLiteral("Cliquez sur les heures pour saisir l'heure de départ et sur "
                          "les points gris pour saisir les minutes --->"),
           8);
-    label(r_label12,
+    label(Detarv::Label12_rect,
           QStringLiteral("<-- Cliquez sur les prestations pour les ajouter dans le "
                          "texte et pour calculer le temps total des prestations."),
           8);
-    label(r_label6, QStringLiteral("Durée du rendez-vous"), 8);
+    label(Detarv::Label6_rect, QStringLiteral("Durée du rendez-vous"), 8);
 
     text1_ = new QPlainTextEdit(this);
-    ui::place(*text1_, r_text1);
+    ui::place(*text1_, Detarv::Text1_rect);
     text1_->setFont(police(11));
     connect(text1_, &QPlainTextEdit::textChanged, this,
             [this] { l_.Text1 = ecran_vers_crlf(text1_->toPlainText()); });
     l_.focus_texte = [this] { text1_->setFocus(); };
 
     picture1_ = new QLabel(this);
-    ui::place(*picture1_, r_picture1);
+    ui::place(*picture1_, Detarv::Picture1_rect);
     picture1_->setPixmap(ui::icc::palette(picture1_->size()));
     picture1_->setCursor(Qt::CrossCursor);
     picture1_->installEventFilter(this);
 
     check1_ = new QCheckBox(QStringLiteral("Encadrement"), this);
-    ui::place(*check1_, r_check1);
+    ui::place(*check1_, Detarv::Check1_rect);
     check1_->setFont(police(10));
     connect(check1_, &QCheckBox::toggled, this, [this](bool oui) { l_.Check1 = oui ? 1 : 0; });
 
-    label15_ = label(r_label15, {}, 10);
+    label15_ = label(Detarv::Label15_rect, {}, 10);
     label15_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     text2_ = new QLineEdit(this);
-    ui::place(*text2_, r_text2);
+    ui::place(*text2_, Detarv::Text2_rect);
     text2_->setFont(police(10));
     connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
 
-    g1_ = grille(r_g1, int(l_.g1.size()), 2);
+    g1_ = grille(Detarv::g1_rect, int(l_.g1.size()), 2);
     g1_->setColumnWidth(0, ui::px(3000));
     g1_->setColumnWidth(1, ui::px(1100));
     for (int i = 0; i < int(l_.g1.size()); ++i) {
@@ -113,7 +94,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
     connect(g1_, &QTableWidget::cellClicked, this,
             [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });
 
-    g2_ = grille(r_g2, 4, 4);
+    g2_ = grille(Detarv::g2_rect, 4, 4);
     for (int r = 0; r < 4; ++r) {
         g2_->setRowHeight(r, ui::px(410));
         for (int c = 0; c < 4; ++c) {
@@ -127,15 +108,15 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
             [this](int r, int c) { appelle([&] { l_.g2_Click(r, c); }); });
 
     label7_ = new QLineEdit(this);
-    ui::place(*label7_, r_label7);
+    ui::place(*label7_, Detarv::Label7_rect);
     label7_->setFont(police(11, true));
     connect(label7_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Label7 = t; });
     connect(label7_, &QLineEdit::editingFinished, this,
             [this] { appelle([&] { l_.Label7_LostFocus(); }); });
-    label9_ = label(r_label9, {}, 8);
+    label9_ = label(Detarv::Label9_rect, {}, 8);
 
     picture2_ = new ui::VueSurface(this, [this](QSize s) { return ui::icc::horloge(l_.face, s); });
-    ui::place(*picture2_, r_picture2);
+    ui::place(*picture2_, Detarv::Picture2_rect);
     picture2_->montre(&aiguilles_);
     for (int i = 0; i < 12; ++i) {
         for (const bool heure : {true, false}) {
@@ -160,24 +141,32 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, largeur, hauteur), l_(l) {
         connect(b, &QPushButton::clicked, this, [this, f] { appelle(f); });
         return b;
     };
-    picture3_ = bouton(r_picture3, QStringLiteral("Matin"), [this] { l_.Picture3_Click(); });
+    picture3_ =
+        bouton(Detarv::Picture3_rect, QStringLiteral("Matin"), [this] { l_.Picture3_Click(); });
     picture3_->setToolTip(QStringLiteral("Horloge avant midi de 0h00 à 11h00"));
-    picture4_ = bouton(r_picture4, QStringLiteral("Après-midi"), [this] { l_.picture4_Click(); });
+    picture4_ = bouton(Detarv::picture4_rect, QStringLiteral("Après-midi"),
+                       [this] { l_.picture4_Click(); });
     picture4_->setToolTip(QStringLiteral("Horloge aprés-midi de 12h00 à 23h00"));
 
-    label(r_debut, QStringLiteral("Début"), 9, true);
-    label(r_fin, QStringLiteral("Fin"), 9, true);
-    combos_ = {combo(r_combo1, Detarv::heures(), &Detarv::Combo1, [this] { l_.Combo1_Click(); }),
-               combo(r_combo2, Detarv::minutes(), &Detarv::Combo2, [this] { l_.Combo2_Click(); }),
-               combo(r_combo3, Detarv::heures(), &Detarv::Combo3, [this] { l_.Combo3_Click(); }),
-               combo(r_combo4, Detarv::minutes(), &Detarv::Combo4, [this] { l_.Combo4_Click(); })};
+    label(Detarv::debut_rect, QStringLiteral("Début"), 9, true);
+    label(Detarv::fin_rect, QStringLiteral("Fin"), 9, true);
+    combos_ = {combo(Detarv::Combo1_rect, Detarv::heures(), &Detarv::Combo1,
+                     [this] { l_.Combo1_Click(); }),
+               combo(Detarv::Combo2_rect, Detarv::minutes(), &Detarv::Combo2,
+                     [this] { l_.Combo2_Click(); }),
+               combo(Detarv::Combo3_rect, Detarv::heures(), &Detarv::Combo3,
+                     [this] { l_.Combo3_Click(); }),
+               combo(Detarv::Combo4_rect, Detarv::minutes(), &Detarv::Combo4,
+                     [this] { l_.Combo4_Click(); })};
 
-    bouton(r_valid, QStringLiteral("Valider le rendez-vous"), [this] {
+    bouton(Detarv::bt_valid_rect, QStringLiteral("Valider le rendez-vous"), [this] {
         l_.bt_valid_Click();
     })->setDefault(false);
-    bouton(r_annul, QStringLiteral("Effacer le rendez-vous"), [this] { l_.bt_annul_Click(); });
-    bouton(r_annull, QStringLiteral("Efface le texte"), [this] { l_.bt_annull_Click(); });
-    bouton(r_corr, QStringLiteral("Changer de date"), [this] { l_.bt_corr_Click(); });
+    bouton(Detarv::bt_annul_rect, QStringLiteral("Effacer le rendez-vous"),
+           [this] { l_.bt_annul_Click(); });
+    bouton(Detarv::bt_annull_rect, QStringLiteral("Efface le texte"),
+           [this] { l_.bt_annull_Click(); });
+    bouton(Detarv::bt_corr_rect, QStringLiteral("Changer de date"), [this] { l_.bt_corr_Click(); });
 
     montre();
     // Across the middle of the screen, at the top.

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <QByteArray>
 #include <vector>
 
@@ -28,7 +29,13 @@ template <class Visite>
 void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
     // One scratch block per thread, kept: a fresh one would be mapped and faulted in at every
     // scan. It holds bytes only for the length of one call; nothing is served from it later.
-    thread_local std::vector<std::uint8_t> bloc(records_par_bloc * RecRv::longueur);
+    // Aligned to the page, so that the copy from the kernel does not depend on where the
+    // allocator puts it.
+    struct Bloc {
+        alignas(4096) std::array<std::uint8_t, records_par_bloc * RecRv::longueur> octets;
+    };
+    thread_local const auto tampon = std::make_unique<Bloc>();
+    auto& bloc = tampon->octets;
     for (std::int64_t premier = 1; premier <= compte; premier += records_par_bloc) {
         const std::int64_t n = std::min<std::int64_t>(records_par_bloc, compte - premier + 1);
         const std::size_t lu =

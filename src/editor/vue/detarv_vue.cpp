@@ -95,6 +95,9 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
             [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });
 
     g2_ = grille(Detarv::g2_rect, 4, 4);
+    // "1h30" must show whole in a cell a quarter of the grid wide.
+    g2_->setTextElideMode(Qt::ElideNone);
+    g2_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 8));
     for (int r = 0; r < 4; ++r) {
         g2_->setRowHeight(r, ui::px(410));
         for (int c = 0; c < 4; ++c) {

@@ -7,6 +7,7 @@
 #include "data/formats.h"
 #include "data/record.h"
 #include "data/rendez_vous.h"
+#include "generateur.h"
 #include "ui/dates.h"
 
 #include <benchmark/benchmark.h>
@@ -15,7 +16,6 @@
 #include <map>
 #include <QCoreApplication>
 #include <QDir>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <unistd.h>
 #include <vector>
@@ -26,46 +26,7 @@ namespace {
 
 constexpr int records = 32767; // the header and 32,766 appointments
 constexpr int du_jour = 200;
-const Date jour = ui::date_de(QDate(2026, 11, 22));
-
-// One collaborator's file over ten years, 200 appointments on the day measured.
-void genere() {
-    FichierRecords f;
-    f.ouvre(nom_fichier_rv(0, false), RecRv::longueur);
-    std::vector<std::uint8_t> tout(std::size_t(records) * RecRv::longueur);
-    QRandomGenerator rng(42);
-    std::vector<bool> sur_le_jour(records, false);
-    for (int n = 0; n < du_jour;) {
-        const int i = 1 + int(rng.bounded(records - 1));
-        if (!sur_le_jour[std::size_t(i)]) {
-            sur_le_jour[std::size_t(i)] = true;
-            ++n;
-        }
-    }
-    for (int r = 1; r <= records; ++r) {
-        RecRv rec;
-        rec.pose(RecRv::fin_rec, u"\r\n");
-        if (r == 1) {
-            rec.pose(RecRv::dernier_num, records - 1);
-        } else {
-            Date d = jour - 1800 + rng.bounded(3600);
-            if (sur_le_jour[std::size_t(r - 1)])
-                d = jour;
-            else if (d == jour)
-                d += 1;
-            rec.pose(RecRv::cle_rv, cle_rendez_vous(d, QStringLiteral("09"), QStringLiteral("00"),
-                                                    QStringLiteral("10"), QStringLiteral("00")));
-            rec.pose(RecRv::texte_rv, u"Coupe et brushing");
-            rec.pose(RecRv::couleur_rv, 0xC0FFC0);
-        }
-        std::copy(rec.octets.begin(), rec.octets.end(),
-                  tout.begin() + std::ptrdiff_t(r - 1) * RecRv::longueur);
-    }
-    const int fd = ::open("tf_r0000.wdo", O_WRONLY);
-    const bool ecrit = fd >= 0 && ::pwrite(fd, tout.data(), tout.size(), 0) == ssize_t(tout.size());
-    if (fd >= 0) ::close(fd);
-    if (!ecrit) std::abort();
-}
+using bench::jour;
 
 void BM_lecture_sequentielle(benchmark::State& state) {
     std::vector<char> bloc(1 << 17);
@@ -110,7 +71,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     QTemporaryDir dossier;
     QDir::setCurrent(dossier.path());
-    genere();
+    bench::genere_rendez_vous(0, records, du_jour);
     benchmark::Initialize(&argc, argv);
     Rapport rapport;
     benchmark::RunSpecifiedBenchmarks(&rapport);

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs, builds with warnings as errors, runs every test, then again under AddressSanitizer
 # and UndefinedBehaviorSanitizer; builds the logic alone, without Qt Widgets, and runs its tests;
-# runs each fuzzer for a minute under ASan and UBSan; then prints the scan benchmark's ratio.
+# runs each fuzzer for a minute under ASan and UBSan; then prints the benchmarks: the day scan
+# against a plain read, and the windows against bare ones.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 bash "$racine/scripts/installe.sh"

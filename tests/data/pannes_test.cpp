@@ -12,7 +12,6 @@
 #include "ui/erreur.h"
 
 #include <cerrno>
-#include <QDir>
 
 using namespace agenda;
 
@@ -152,17 +151,6 @@ TEST_F(Pannes, UneEcritureCourteEstCompleteeEtUneLectureQuiEchoueSeDit) {
         EXPECT_TRUE(e.message().endsWith(QStringLiteral("(lecture) : erreur d'entrée-sortie du "
                                                         "disque.")))
             << e.message().toStdString();
-    }
-}
-
-TEST_F(Pannes, UnDossierALaPlaceDUnFichierNEstPasIntrouvable) {
-    ASSERT_TRUE(QDir().mkdir(chemin(QStringLiteral("tf_r0000.wdo"))));
-    try {
-        canal_fichier(canal::rv).ouvre(QStringLiteral("tf_r0000.wdo"), 512);
-        ADD_FAILURE();
-    } catch (const Erreur& e) {
-        EXPECT_EQ(e.message(), QStringLiteral("Erreur d'accès au fichier tf_r0000.wdo "
-                                              "(ouverture) : c'est un dossier, pas un fichier."));
     }
 }
 

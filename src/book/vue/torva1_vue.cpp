@@ -6,6 +6,7 @@
 #include "ui/vue/widgets.h"
 
 #include <QCalendarWidget>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -168,33 +169,47 @@ void Torva1Vue::montre() {
         calend_->setSelectedDate(ui::jour_de(l_.calend));
     }
 
-    // Later, not now: this may run inside the click of one of these labels.
-    for (QLabel* e : etiquettes_) {
-        e->hide();
-        e->deleteLater();
-    }
-    etiquettes_.clear();
-    if (!jour) return;
+    // The labels are kept from one day to the next and only hidden when fewer are needed: no
+    // label is deleted while its own click may be running, and no style sheet is parsed.
     for (const bool gauche : {true, false}) {
-        for (const auto& [i, et] : gauche ? l_.lrv : l_.lrvd) {
-            auto* e = new QLabel(gauche ? static_cast<QWidget*>(pageg_) : paged_);
-            ui::place(*e, {et.left, et.top, et.width, et.height});
-            e->setText(et.legende);
-            e->setWordWrap(true);
-            e->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-            e->setFont(ui::police(QStringLiteral("Arial"), 8));
-            e->setStyleSheet(QStringLiteral("QLabel { background: %1; color: black; padding: 1px; "
-                                            "border: %2; }")
-                                 .arg(teinte(et.couleur), et.bordure
-                                                              ? QStringLiteral("1px solid black")
-                                                              : QStringLiteral("none")));
-            e->setCursor(Qt::PointingHandCursor);
-            e->setProperty("indice", i);
-            e->installEventFilter(this);
-            e->show();
-            etiquettes_.push_back(e);
+        auto& reserve = gauche ? etiquettes_g_ : etiquettes_d_;
+        const auto& page = gauche ? l_.lrv : l_.lrvd;
+        std::size_t k = 0;
+        if (jour) {
+            for (const auto& [i, et] : page) {
+                if (k == reserve.size()) reserve.push_back(nouvelle_etiquette(gauche));
+                QLabel* e = reserve[k++];
+                ui::place(*e, {et.left, et.top, et.width, et.height});
+                e->setText(et.legende);
+                QPalette p = e->palette();
+                p.setColor(QPalette::Window, ui::couleur(et.couleur));
+                e->setPalette(p);
+                e->setFrameStyle(et.bordure ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+                e->setProperty("indice", i);
+                e->show();
+            }
         }
+        for (; k < reserve.size(); ++k)
+            reserve[k]->hide();
     }
+}
+
+QLabel* Torva1Vue::nouvelle_etiquette(bool gauche) {
+    auto* e = new QLabel(gauche ? static_cast<QWidget*>(pageg_) : paged_);
+    e->setWordWrap(true);
+    e->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    e->setFont(ui::police(QStringLiteral("Arial"), 8));
+    e->setAutoFillBackground(true);
+    QPalette p = e->palette();
+    p.setColor(QPalette::WindowText, Qt::black);
+    e->setPalette(p);
+    // The text where a style sheet's box put it: one pixel in, and half an "x" from the edge.
+    e->setLineWidth(1);
+    e->setMargin(1);
+    e->setIndent(QFontMetrics(e->font()).horizontalAdvance(QLatin1Char('x')) / 2);
+    e->setCursor(Qt::PointingHandCursor);
+    e->installEventFilter(this);
+    return e;
 }
 
 bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {

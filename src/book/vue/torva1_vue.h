@@ -46,8 +46,9 @@ private:
     QLabel *label1_, *label2_, *label3_, *label4_, *label7_;
     QCalendarWidget* calend_;
     QToolButton *picture2_, *picture3_;
-    std::vector<QWidget*> vue_jour_;  // what only the day view shows
-    std::vector<QLabel*> etiquettes_; // lrv and lrvd
+    std::vector<QWidget*> vue_jour_; // what only the day view shows
+    QLabel* nouvelle_etiquette(bool gauche);
+    std::vector<QLabel*> etiquettes_g_, etiquettes_d_; // lrv and lrvd, kept from day to day
 };
 
 } // namespace agenda

@@ -121,14 +121,15 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     picture2_ = new ui::VueSurface(this, [this](QSize s) { return ui::icc::horloge(l_.face, s); });
     ui::place(*picture2_, Detarv::Picture2_rect);
     picture2_->montre(&aiguilles_);
+    // The cells are invisible buttons over the face's numbers and dots: styled once, here.
+    picture2_->setStyleSheet(
+        QStringLiteral("QPushButton { background: transparent; border: none; }"));
     for (int i = 0; i < 12; ++i) {
         for (const bool heure : {true, false}) {
             auto* b = new QPushButton(picture2_);
             ui::place(*b, (heure ? l_.sheur : l_.sminu)[std::size_t(i)]);
             b->setFlat(true);
             b->setCursor(Qt::PointingHandCursor);
-            b->setStyleSheet(
-                QStringLiteral("QPushButton { background: transparent; border: none; }"));
             b->setToolTip(heure ? QStringLiteral("%1 h").arg(i)
                                 : QStringLiteral("%1 mn").arg(5 * i));
             connect(b, &QPushButton::clicked, this, [this, i, heure] {
@@ -232,8 +233,9 @@ void DetarvVue::montre() {
         text1_->setPlainText(crlf_vers_ecran(l_.Text1));
         text1_->moveCursor(QTextCursor::End);
     }
-    text1_->setStyleSheet(QStringLiteral("QPlainTextEdit { background: %1; color: black; }")
-                              .arg(ui::couleur(l_.Text1_couleur).name()));
+    const QString style_texte = QStringLiteral("QPlainTextEdit { background: %1; color: black; }")
+                                    .arg(ui::couleur(l_.Text1_couleur).name());
+    if (text1_->styleSheet() != style_texte) text1_->setStyleSheet(style_texte);
     check1_->setChecked(l_.Check1 != 0);
     label15_->setText(crlf_vers_ecran(l_.Label15));
     label15_->setVisible(!l_.Label15.isEmpty());
@@ -245,10 +247,12 @@ void DetarvVue::montre() {
         const QSignalBlocker b(combos_[i]);
         combos_[i]->setEditText(l_.*champs_[i]);
     }
+    // A style sheet is parsed only when the switch's colour changes.
     const auto fond = [](QPushButton* b, std::int32_t c) {
-        b->setStyleSheet(QStringLiteral("QPushButton { background: %1; border: 1px solid #5a3a22; "
-                                        "border-radius: 4px; }")
-                             .arg(ui::couleur(c).name()));
+        const QString style = QStringLiteral("QPushButton { background: %1; border: 1px solid "
+                                             "#5a3a22; border-radius: 4px; }")
+                                  .arg(ui::couleur(c).name());
+        if (b->styleSheet() != style) b->setStyleSheet(style);
     };
     fond(picture3_, l_.Picture3_fond);
     fond(picture4_, l_.picture4_fond);

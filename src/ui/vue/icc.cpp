@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <QFontMetrics>
+#include <QHash>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -23,6 +24,17 @@ const QColor or_vieux(0xc9, 0xa4, 0x4c);
 const QColor papier(0xfb, 0xf6, 0xe8);
 const QColor papier_ombre(0xe2, 0xd6, 0xbb);
 const QColor encre(0x4a, 0x2c, 0x1a);
+
+// The pictures are the team's, not records: each is drawn once for its role and size, and kept
+// for the life of the program (never freed, as a picture must not outlive the application).
+template <class Dessin>
+QPixmap garde(const QString& role, QSize t, Dessin&& dessin) {
+    static auto* pictures = new QHash<QString, QPixmap>;
+    const QString cle = role + QStringLiteral("@%1x%2").arg(t.width()).arg(t.height());
+    auto it = pictures->find(cle);
+    if (it == pictures->end()) it = pictures->insert(cle, dessin());
+    return *it;
+}
 
 QPixmap vierge(QSize t) {
     QPixmap p(t.expandedTo(QSize(1, 1)));
@@ -81,62 +93,69 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
 } // namespace
 
 QPixmap couverture(QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    QRadialGradient rg(t.width() / 2.0, t.height() / 2.0, std::max(t.width(), t.height()) * 0.7);
-    rg.setColorAt(0, cuir_clair);
-    rg.setColorAt(1, cuir_fonce);
-    g.fillRect(p.rect(), rg);
-    grain(g, t, 6, Qt::black);
-    // A gilt fillet round the boards.
-    const int m = std::max(2, t.width() / 160);
-    g.setPen(QPen(or_vieux, std::max(1, m / 3)));
-    g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
-    return p;
+    return garde(QStringLiteral("couverture"), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        QRadialGradient rg(t.width() / 2.0, t.height() / 2.0,
+                           std::max(t.width(), t.height()) * 0.7);
+        rg.setColorAt(0, cuir_clair);
+        rg.setColorAt(1, cuir_fonce);
+        g.fillRect(p.rect(), rg);
+        grain(g, t, 6, Qt::black);
+        // A gilt fillet round the boards.
+        const int m = std::max(2, t.width() / 160);
+        g.setPen(QPen(or_vieux, std::max(1, m / 3)));
+        g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
+        return p;
+    });
 }
 
 QPixmap page(QSize t, bool gauche) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    QPainterPath bord;
-    const qreal r = t.width() / 60.0;
-    bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
-    // The paper darkens towards the gutter, where the page curves into the binding.
-    QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
-    lg.setColorAt(0, papier_ombre);
-    lg.setColorAt(0.08, papier);
-    lg.setColorAt(0.97, papier);
-    lg.setColorAt(1, papier_ombre);
-    g.fillPath(bord, lg);
-    grain(g, t, 40, QColor(0x80, 0x60, 0x30));
-    // The edges of the leaves underneath, on the fore-edge side.
-    g.setPen(QPen(papier_ombre.darker(110), 1));
-    for (int i = 1; i <= 3; ++i) {
-        const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
-        g.drawLine(x, int(r), x, t.height() - int(r));
-    }
-    return p;
+    return garde(QStringLiteral("page%1").arg(gauche), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        QPainterPath bord;
+        const qreal r = t.width() / 60.0;
+        bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
+        // The paper darkens towards the gutter, where the page curves into the binding.
+        QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
+        lg.setColorAt(0, papier_ombre);
+        lg.setColorAt(0.08, papier);
+        lg.setColorAt(0.97, papier);
+        lg.setColorAt(1, papier_ombre);
+        g.fillPath(bord, lg);
+        grain(g, t, 40, QColor(0x80, 0x60, 0x30));
+        // The edges of the leaves underneath, on the fore-edge side.
+        g.setPen(QPen(papier_ombre.darker(110), 1));
+        for (int i = 1; i <= 3; ++i) {
+            const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
+            g.drawLine(x, int(r), x, t.height() - int(r));
+        }
+        return p;
+    });
 }
 
 QPixmap reliure(QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    QLinearGradient lg(0, 0, t.width(), 0);
-    lg.setColorAt(0, papier_ombre.darker(130));
-    lg.setColorAt(0.25, cuir_fonce);
-    lg.setColorAt(0.5, cuir_clair);
-    lg.setColorAt(0.75, cuir_fonce);
-    lg.setColorAt(1, papier_ombre.darker(130));
-    g.fillRect(p.rect(), lg);
-    // Gilt bands at head and tail, and the ribbon marker.
-    g.setPen(QPen(or_vieux, std::max(1, t.width() / 20)));
-    for (const double y : {0.04, 0.06, 0.94, 0.96})
-        g.drawLine(0, int(t.height() * y), t.width(), int(t.height() * y));
-    const int rw = std::max(2, t.width() / 6);
-    g.fillRect(QRect(t.width() / 2 - rw / 2, int(t.height() * 0.6), rw, int(t.height() * 0.4)),
-               QColor(0x9e, 0x1b, 0x1b));
-    return p;
+    return garde(QStringLiteral("reliure"), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        QLinearGradient lg(0, 0, t.width(), 0);
+        lg.setColorAt(0, papier_ombre.darker(130));
+        lg.setColorAt(0.25, cuir_fonce);
+        lg.setColorAt(0.5, cuir_clair);
+        lg.setColorAt(0.75, cuir_fonce);
+        lg.setColorAt(1, papier_ombre.darker(130));
+        g.fillRect(p.rect(), lg);
+        // Gilt bands at head and tail, and the ribbon marker.
+        g.setPen(QPen(or_vieux, std::max(1, t.width() / 20)));
+        for (const double y : {0.04, 0.06, 0.94, 0.96})
+            g.drawLine(0, int(t.height() * y), t.width(), int(t.height() * y));
+        const int rw = std::max(2, t.width() / 6);
+        g.fillRect(QRect(t.width() / 2 - rw / 2, int(t.height() * 0.6), rw, int(t.height() * 0.4)),
+                   QColor(0x9e, 0x1b, 0x1b));
+        return p;
+    });
 }
 
 QPixmap p11g(int i, QSize t) {
@@ -147,65 +166,71 @@ QPixmap p11d(int i, QSize t) {
 }
 
 QPixmap fleche(bool vers_la_gauche, QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    const qreal w = t.width(), h = t.height();
-    QPainterPath tri;
-    if (vers_la_gauche) {
-        tri.moveTo(w * 0.15, h / 2);
-        tri.lineTo(w * 0.85, h * 0.15);
-        tri.lineTo(w * 0.85, h * 0.85);
-    } else {
-        tri.moveTo(w * 0.85, h / 2);
-        tri.lineTo(w * 0.15, h * 0.15);
-        tri.lineTo(w * 0.15, h * 0.85);
-    }
-    tri.closeSubpath();
-    g.fillPath(tri, cuir_clair);
-    g.setPen(QPen(or_vieux, std::max(1.0, w / 24)));
-    g.drawPath(tri);
-    return p;
+    return garde(QStringLiteral("fleche%1").arg(vers_la_gauche), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        const qreal w = t.width(), h = t.height();
+        QPainterPath tri;
+        if (vers_la_gauche) {
+            tri.moveTo(w * 0.15, h / 2);
+            tri.lineTo(w * 0.85, h * 0.15);
+            tri.lineTo(w * 0.85, h * 0.85);
+        } else {
+            tri.moveTo(w * 0.85, h / 2);
+            tri.lineTo(w * 0.15, h * 0.15);
+            tri.lineTo(w * 0.15, h * 0.85);
+        }
+        tri.closeSubpath();
+        g.fillPath(tri, cuir_clair);
+        g.setPen(QPen(or_vieux, std::max(1.0, w / 24)));
+        g.drawPath(tri);
+        return p;
+    });
 }
 
 QPixmap piece_cadre(int coin, int i, QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    const bool vertical = i == 4 || i == 6;
-    QLinearGradient lg(0, 0, vertical ? t.width() : 0, vertical ? 0 : t.height());
-    lg.setColorAt(0, cuir_fonce);
-    lg.setColorAt(0.5, cuir_clair);
-    lg.setColorAt(1, cuir_fonce);
-    g.fillRect(p.rect(), lg);
-    if (i < 4) {
-        // A gilt boss on each corner; larger on the wide frame.
-        const qreal d = std::min(t.width(), t.height()) * (coin > 200 ? 0.5 : 0.6);
-        g.setBrush(or_vieux);
-        g.setPen(Qt::NoPen);
-        g.drawEllipse(QRectF((t.width() - d) / 2, (t.height() - d) / 2, d, d));
-    }
-    return p;
+    return garde(QStringLiteral("cadre%1-%2").arg(coin).arg(i), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        const bool vertical = i == 4 || i == 6;
+        QLinearGradient lg(0, 0, vertical ? t.width() : 0, vertical ? 0 : t.height());
+        lg.setColorAt(0, cuir_fonce);
+        lg.setColorAt(0.5, cuir_clair);
+        lg.setColorAt(1, cuir_fonce);
+        g.fillRect(p.rect(), lg);
+        if (i < 4) {
+            // A gilt boss on each corner; larger on the wide frame.
+            const qreal d = std::min(t.width(), t.height()) * (coin > 200 ? 0.5 : 0.6);
+            g.setBrush(or_vieux);
+            g.setPen(Qt::NoPen);
+            g.drawEllipse(QRectF((t.width() - d) / 2, (t.height() - d) / 2, d, d));
+        }
+        return p;
+    });
 }
 
 QPixmap bouton(bool oui, QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    const QRectF r(1, 1, t.width() - 2, t.height() - 2);
-    g.setBrush(oui ? QColor(0x2e, 0x7d, 0x32) : QColor(0xa3, 0x1f, 0x24));
-    g.setPen(QPen(or_vieux, 2));
-    g.drawRoundedRect(r, r.height() / 4, r.height() / 4);
-    g.setPen(QPen(Qt::white, std::max(2.0, r.height() / 10), Qt::SolidLine, Qt::RoundCap));
-    const qreal cx = r.center().x(), cy = r.center().y(), k = r.height() / 4;
-    if (oui) {
-        g.drawLine(QPointF(cx - k, cy), QPointF(cx - k / 3, cy + k * 0.7));
-        g.drawLine(QPointF(cx - k / 3, cy + k * 0.7), QPointF(cx + k, cy - k * 0.7));
-    } else {
-        g.drawLine(QPointF(cx - k * 0.7, cy - k * 0.7), QPointF(cx + k * 0.7, cy + k * 0.7));
-        g.drawLine(QPointF(cx - k * 0.7, cy + k * 0.7), QPointF(cx + k * 0.7, cy - k * 0.7));
-    }
-    return p;
+    return garde(QStringLiteral("bouton%1").arg(oui), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        const QRectF r(1, 1, t.width() - 2, t.height() - 2);
+        g.setBrush(oui ? QColor(0x2e, 0x7d, 0x32) : QColor(0xa3, 0x1f, 0x24));
+        g.setPen(QPen(or_vieux, 2));
+        g.drawRoundedRect(r, r.height() / 4, r.height() / 4);
+        g.setPen(QPen(Qt::white, std::max(2.0, r.height() / 10), Qt::SolidLine, Qt::RoundCap));
+        const qreal cx = r.center().x(), cy = r.center().y(), k = r.height() / 4;
+        if (oui) {
+            g.drawLine(QPointF(cx - k, cy), QPointF(cx - k / 3, cy + k * 0.7));
+            g.drawLine(QPointF(cx - k / 3, cy + k * 0.7), QPointF(cx + k, cy - k * 0.7));
+        } else {
+            g.drawLine(QPointF(cx - k * 0.7, cy - k * 0.7), QPointF(cx + k * 0.7, cy + k * 0.7));
+            g.drawLine(QPointF(cx - k * 0.7, cy + k * 0.7), QPointF(cx + k * 0.7, cy - k * 0.7));
+        }
+        return p;
+    });
 }
 
 } // namespace agenda::ui::icc
@@ -231,71 +256,75 @@ const std::array<StyleCadran, 7> cadrans = {{
 } // namespace
 
 QPixmap horloge(int n, QSize t) {
-    QPixmap p = vierge(t);
-    const auto face = std::size_t(std::clamp(n, 0, int(cadrans.size()) - 1));
-    const StyleCadran& st = cadrans[face];
-    const AnneauxHorloge anneaux = anneaux_horloge[face];
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    g.setRenderHint(QPainter::TextAntialiasing);
-    g.scale(t.width() / double(horloge_largeur), t.height() / double(horloge_hauteur));
-    const QPointF centre(horloge_centre_x, horloge_centre_y);
-    QRadialGradient rg(centre, 2500);
-    rg.setColorAt(0, st.fond.lighter(104));
-    rg.setColorAt(0.9, st.fond);
-    rg.setColorAt(1, st.fond.darker(112));
-    g.setBrush(rg);
-    g.setPen(QPen(st.bord, 90));
-    g.drawEllipse(centre, 2460, 2460);
-    // The minute dots, where the minute cells lie.
-    g.setPen(Qt::NoPen);
-    for (int i = 0; i < 12; ++i) {
-        const double a = i * 3.1415926 / 6;
-        const QPointF c(centre.x() + anneaux.minutes * std::sin(a),
-                        centre.y() - anneaux.minutes * std::cos(a));
-        g.setBrush(QColor(0x90, 0x90, 0x90));
-        g.drawEllipse(c, 90, 90);
-    }
-    QFont f(QStringLiteral("DejaVu Serif"));
-    f.setBold(true);
-    f.setPixelSize(380);
-    g.setFont(f);
-    g.setPen(st.chiffres);
-    for (int i = 0; i < 12; ++i) {
-        const double a = i * 3.1415926 / 6;
-        const QPointF c(centre.x() + anneaux.heures * std::sin(a),
-                        centre.y() - anneaux.heures * std::cos(a));
-        g.drawText(QRectF(c.x() - 400, c.y() - 300, 800, 600), Qt::AlignCenter,
-                   QString::number(i == 0 ? 12 : i));
-    }
-    g.setBrush(st.bord);
-    g.setPen(Qt::NoPen);
-    g.drawEllipse(centre, 110, 110);
-    return p;
+    return garde(QStringLiteral("horloge%1").arg(n), t, [&] {
+        QPixmap p = vierge(t);
+        const auto face = std::size_t(std::clamp(n, 0, int(cadrans.size()) - 1));
+        const StyleCadran& st = cadrans[face];
+        const AnneauxHorloge anneaux = anneaux_horloge[face];
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        g.setRenderHint(QPainter::TextAntialiasing);
+        g.scale(t.width() / double(horloge_largeur), t.height() / double(horloge_hauteur));
+        const QPointF centre(horloge_centre_x, horloge_centre_y);
+        QRadialGradient rg(centre, 2500);
+        rg.setColorAt(0, st.fond.lighter(104));
+        rg.setColorAt(0.9, st.fond);
+        rg.setColorAt(1, st.fond.darker(112));
+        g.setBrush(rg);
+        g.setPen(QPen(st.bord, 90));
+        g.drawEllipse(centre, 2460, 2460);
+        // The minute dots, where the minute cells lie.
+        g.setPen(Qt::NoPen);
+        for (int i = 0; i < 12; ++i) {
+            const double a = i * 3.1415926 / 6;
+            const QPointF c(centre.x() + anneaux.minutes * std::sin(a),
+                            centre.y() - anneaux.minutes * std::cos(a));
+            g.setBrush(QColor(0x90, 0x90, 0x90));
+            g.drawEllipse(c, 90, 90);
+        }
+        QFont f(QStringLiteral("DejaVu Serif"));
+        f.setBold(true);
+        f.setPixelSize(380);
+        g.setFont(f);
+        g.setPen(st.chiffres);
+        for (int i = 0; i < 12; ++i) {
+            const double a = i * 3.1415926 / 6;
+            const QPointF c(centre.x() + anneaux.heures * std::sin(a),
+                            centre.y() - anneaux.heures * std::cos(a));
+            g.drawText(QRectF(c.x() - 400, c.y() - 300, 800, 600), Qt::AlignCenter,
+                       QString::number(i == 0 ? 12 : i));
+        }
+        g.setBrush(st.bord);
+        g.setPen(Qt::NoPen);
+        g.drawEllipse(centre, 110, 110);
+        return p;
+    });
 }
 
 QPixmap palette(QSize t) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    // Soft label colours first, then stronger ones; black last, which the editor refuses.
-    const std::array<QColor, 24> teintes = {
-        QColor(0xff, 0xc0, 0xc0), QColor(0xff, 0xe0, 0xc0), QColor(0xff, 0xff, 0xc0),
-        QColor(0xc0, 0xff, 0xc0), QColor(0xc0, 0xff, 0xff), QColor(0xc0, 0xe0, 0xff),
-        QColor(0xe0, 0xc0, 0xff), QColor(0xff, 0xc0, 0xff), QColor(0xe0, 0xe0, 0xe0),
-        QColor(0xff, 0xff, 0xff), QColor(0xf0, 0xe6, 0xd2), QColor(0xd2, 0xf0, 0xe6),
-        QColor(0xff, 0x80, 0x80), QColor(0xff, 0xb0, 0x60), QColor(0xff, 0xff, 0x60),
-        QColor(0x80, 0xff, 0x80), QColor(0x60, 0xe0, 0xe0), QColor(0x80, 0xb0, 0xff),
-        QColor(0xb0, 0x80, 0xff), QColor(0xff, 0x80, 0xff), QColor(0xa0, 0xa0, 0xa0),
-        QColor(0xc8, 0xa0, 0x78), QColor(0x9e, 0x1b, 0x1b), QColor(0, 0, 0),
-    };
-    const int n = int(teintes.size());
-    for (int i = 0; i < n; ++i) {
-        const int x1 = t.width() * i / n, x2 = t.width() * (i + 1) / n;
-        g.fillRect(QRect(x1, 0, x2 - x1, t.height()), teintes[std::size_t(i)]);
-    }
-    g.setPen(QPen(QColor(0x5a, 0x3a, 0x22), 1));
-    g.drawRect(QRect(0, 0, t.width() - 1, t.height() - 1));
-    return p;
+    return garde(QStringLiteral("palette"), t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        // Soft label colours first, then stronger ones; black last, which the editor refuses.
+        const std::array<QColor, 24> teintes = {
+            QColor(0xff, 0xc0, 0xc0), QColor(0xff, 0xe0, 0xc0), QColor(0xff, 0xff, 0xc0),
+            QColor(0xc0, 0xff, 0xc0), QColor(0xc0, 0xff, 0xff), QColor(0xc0, 0xe0, 0xff),
+            QColor(0xe0, 0xc0, 0xff), QColor(0xff, 0xc0, 0xff), QColor(0xe0, 0xe0, 0xe0),
+            QColor(0xff, 0xff, 0xff), QColor(0xf0, 0xe6, 0xd2), QColor(0xd2, 0xf0, 0xe6),
+            QColor(0xff, 0x80, 0x80), QColor(0xff, 0xb0, 0x60), QColor(0xff, 0xff, 0x60),
+            QColor(0x80, 0xff, 0x80), QColor(0x60, 0xe0, 0xe0), QColor(0x80, 0xb0, 0xff),
+            QColor(0xb0, 0x80, 0xff), QColor(0xff, 0x80, 0xff), QColor(0xa0, 0xa0, 0xa0),
+            QColor(0xc8, 0xa0, 0x78), QColor(0x9e, 0x1b, 0x1b), QColor(0, 0, 0),
+        };
+        const int n = int(teintes.size());
+        for (int i = 0; i < n; ++i) {
+            const int x1 = t.width() * i / n, x2 = t.width() * (i + 1) / n;
+            g.fillRect(QRect(x1, 0, x2 - x1, t.height()), teintes[std::size_t(i)]);
+        }
+        g.setPen(QPen(QColor(0x5a, 0x3a, 0x22), 1));
+        g.drawRect(QRect(0, 0, t.width() - 1, t.height() - 1));
+        return p;
+    });
 }
 
 } // namespace agenda::ui::icc

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -23,6 +24,20 @@ QString teinte(std::int32_t bbggrr) {
 }
 
 } // namespace
+
+Banniere::Banniere() : QWidget(nullptr, Qt::FramelessWindowHint) {
+    setObjectName(QStringLiteral("sepaffic"));
+    setFixedSize(ui::px(7200), ui::px(1800));
+}
+
+void Banniere::paintEvent(QPaintEvent*) {
+    // Drawn when shown, and only then: the banner is loaded at start but seldom shown.
+    QPainter g(this);
+    g.drawPixmap(0, 0, ui::icc::couverture(size()));
+    g.setFont(ui::police(QStringLiteral("DejaVu Serif"), 20, true));
+    g.setPen(QColor(0xc9, 0xa4, 0x4c));
+    g.drawText(rect(), Qt::AlignCenter, QStringLiteral("Agenda — le carnet de rendez-vous"));
+}
 
 Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     ui::pose_fenetre_principale(this);
@@ -100,18 +115,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
 
     connect(&l_, &Torva1::charge_banniere, this, [this] {
-        sepaffic_ = std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint);
-        sepaffic_->setObjectName(QStringLiteral("sepaffic"));
-        sepaffic_->setFixedSize(ui::px(7200), ui::px(1800));
-        auto* image = new QLabel(sepaffic_.get());
-        image->setGeometry(sepaffic_->rect());
-        image->setPixmap(ui::icc::couverture(sepaffic_->size()));
-        auto* titre =
-            new QLabel(QStringLiteral("Agenda — le carnet de rendez-vous"), sepaffic_.get());
-        titre->setGeometry(sepaffic_->rect());
-        titre->setAlignment(Qt::AlignCenter);
-        titre->setFont(ui::police(QStringLiteral("DejaVu Serif"), 20, true));
-        titre->setStyleSheet(QStringLiteral("color: #c9a44c; background: transparent;"));
+        sepaffic_ = std::make_unique<Banniere>();
         ui::centre_fenetre_haut(*sepaffic_);
     });
     // Timer3 never puts the book above a window it opened.

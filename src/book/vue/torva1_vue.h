@@ -22,6 +22,15 @@ namespace ui {
 class VueSurface;
 } // namespace ui
 
+// The banner sepaffic: loaded with the book, hidden.
+class Banniere : public QWidget {
+public:
+    Banniere();
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
 class Torva1Vue : public QWidget, public ui::Vue {
 public:
     explicit Torva1Vue(Torva1& logique);
@@ -39,7 +48,7 @@ private:
                   Qt::Alignment a);
 
     Torva1& l_;
-    std::unique_ptr<QWidget> sepaffic_; // the banner: loaded, never shown
+    std::unique_ptr<Banniere> sepaffic_;
     ui::VueSurface* pageg_;
     ui::VueSurface* paged_;
     std::array<QPushButton*, Torva1::nb_onglets> ongletg_{}, ongletd_{};

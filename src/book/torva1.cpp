@@ -14,6 +14,7 @@
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 
+#include <climits>
 #include <cmath>
 
 namespace agenda {
@@ -342,14 +343,10 @@ void Torva1::place_etiquette(int i, const QString& e) {
     num_rv_label[std::size_t(i)] = numero;
     const float debut = heure_centieme(entree_jour::heure_debut(e));
     et.top = en_i32(debut * echelle_page + table_pages[b + origine]);
-    // A key damaged by hand may give a negative height, which a label refuses: it keeps the
-    // height it was designed with.
-    et.height = EtiquetteRv::hauteur_modele;
-    etape([&] {
-        const double h = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
-        if (h < 0) throw Erreur(QStringLiteral("Hauteur négative."));
-        et.height = en_i32(h);
-    });
+    // A key damaged by hand may give a height a label refuses (negative, or beyond any
+    // screen): the label keeps the height it was designed with.
+    const double h = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
+    et.height = h >= 0 && h <= INT32_MAX ? en_i32(h) : EtiquetteRv::hauteur_modele;
 }
 
 } // namespace agenda

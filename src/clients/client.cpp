@@ -50,7 +50,7 @@ void ouvre_clients() {
 void cree_client() {
     const std::int64_t records = fichier().records();
     rec_cli = lit_record<RecCli>(fichier(), 1);
-    const std::int32_t n = plus_un(compte_plausible(rec_cli.lit(RecCli::dernier_client), records));
+    const std::int32_t n = numero_suivant(rec_cli.lit(RecCli::dernier_client), records);
     client_alloue = n;
     rec_cli.pose(RecCli::dernier_client, n);
     ecrit_record(fichier(), 1, rec_cli);

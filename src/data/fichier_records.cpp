@@ -1,5 +1,6 @@
 #include "data/fichier_records.h"
 
+#include "data/texte.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 
@@ -75,19 +76,28 @@ std::int64_t FichierRecords::taille() const {
 }
 
 template <class Appel>
+ssize_t FichierRecords::appel_systeme(bool lecture, Appel&& appel) const {
+    ssize_t n;
+    do
+        n = appel();
+    while (n < 0 && errno == EINTR);
+    const QString action = lecture ? QStringLiteral("lecture") : QStringLiteral("écriture");
+    if (n < 0) echec(action, errno);
+    // A write that takes nothing and reports nothing: the disk is full.
+    if (n == 0 && !lecture) echec(action, ENOSPC);
+    return n;
+}
+
+template <class Appel>
 std::size_t FichierRecords::jusqu_au_bout(std::int64_t r, std::size_t taille, bool lecture,
                                           Appel&& appel) const {
     // The system may take or give part of the bytes: the call is repeated for the rest.
     const std::int64_t depart = position(r);
     std::size_t fait = 0;
     while (fait < taille) {
-        const ssize_t n = appel(fait, static_cast<off_t>(depart + std::int64_t(fait)));
-        if (n < 0 && errno == EINTR) continue;
-        const QString action = lecture ? QStringLiteral("lecture") : QStringLiteral("écriture");
-        if (n < 0) echec(action, errno);
-        if (n == 0 && lecture) break; // the end of the file
-        // A write that takes nothing and reports nothing: the disk is full.
-        if (n == 0) echec(action, ENOSPC);
+        const ssize_t n = appel_systeme(
+            lecture, [&] { return appel(fait, static_cast<off_t>(depart + std::int64_t(fait))); });
+        if (n == 0) break; // the end of the file
         fait += static_cast<std::size_t>(n);
     }
     return fait;
@@ -110,16 +120,12 @@ void FichierRecords::ecrit(std::int64_t r, octets::TamponLu buf) {
     });
 }
 
-std::int32_t compte_a_lire(std::int32_t compte, const FichierRecords& f) {
-    return std::int32_t(std::clamp<std::int64_t>(compte, 0, f.records() - 1));
-}
-
-std::int32_t compte_plausible(std::int32_t compte, std::int64_t records) {
+std::int32_t numero_suivant(std::int32_t compte, std::int64_t records) {
     constexpr std::int64_t avance_toleree = 16;
     const std::int64_t presents = std::max<std::int64_t>(records - 1, 0);
     if (compte < 0 || compte > presents + avance_toleree)
-        return std::int32_t(std::min<std::int64_t>(presents, INT32_MAX));
-    return compte;
+        compte = std::int32_t(std::min<std::int64_t>(presents, INT32_MAX));
+    return plus_un(compte);
 }
 
 std::int64_t FichierRecords::ajoute(octets::TamponLu buf, std::int64_t prevu) {
@@ -131,12 +137,8 @@ std::int64_t FichierRecords::ajoute(octets::TamponLu buf, std::int64_t prevu) {
         fd_ajout_ = ::open(QFile::encodeName(chemin_).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
         if (fd_ajout_ < 0) echec(QStringLiteral("ouverture"), errno);
     }
-    ssize_t n;
-    do
-        n = disque_en_place->ajoute(fd_ajout_, buf.data(), buf.size(), chemin_);
-    while (n < 0 && errno == EINTR);
-    if (n < 0) echec(QStringLiteral("écriture"), errno);
-    if (n == 0) echec(QStringLiteral("écriture"), ENOSPC);
+    const ssize_t n = appel_systeme(
+        false, [&] { return disque_en_place->ajoute(fd_ajout_, buf.data(), buf.size(), chemin_); });
     // Where this write ended, and so where the record begins, whatever others appended.
     const off_t fin = ::lseek(fd_ajout_, 0, SEEK_CUR);
     if (fin < 0) echec(QStringLiteral("position"), errno);

@@ -62,6 +62,9 @@ public:
 private:
     std::int64_t position(std::int64_t r) const;
     [[noreturn]] void echec(const QString& action, int numero) const;
+    // One system call, repeated when a signal interrupts it; a failure throws.
+    template <class Appel>
+    ssize_t appel_systeme(bool lecture, Appel&& appel) const;
     template <class Appel>
     std::size_t jusqu_au_bout(std::int64_t r, std::size_t taille, bool lecture,
                               Appel&& appel) const;
@@ -72,15 +75,13 @@ private:
     QString chemin_;
 };
 
-// How far a loop over the records that a header counts may go: the records past the file's
-// end read as blanks and zeros, and can change no result, so a loop stops at the end.
-std::int32_t compte_a_lire(std::int32_t compte, const FichierRecords& f);
-// The count a header may be given for one more record. A count that runs more than a few records
-// past the file's end, or below zero, is damage: it is brought back to the records the file
-// holds, as the header-lag repair would, so that a save never writes far past the end. A count
-// that runs ahead by a few (another workstation between its two writes) stands.
-// `records` is the file's number of records (header included), taken before the header is read.
-std::int32_t compte_plausible(std::int32_t compte, std::int64_t records);
+// The number a header's count gives the next record: the count plus one. A count that runs more
+// than a few records past the file's end, or below zero, is damage: it is first brought back to
+// the records the file holds, as the header-lag repair would, so that a save never writes far
+// past the end. A count that runs ahead by a few (another workstation between its two writes)
+// stands. `records` is the file's number of records (header included), taken before the header
+// is read; past the largest 32-bit number it is an overflow error.
+std::int32_t numero_suivant(std::int32_t compte, std::int64_t records);
 
 // The fixed channels of the record files, so that any routine can close or reuse a file
 // without holding a handle.

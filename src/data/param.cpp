@@ -22,13 +22,15 @@ void ferme_param() {
 
 // The number (from 1) of the first record holding the key, or 0. `trouve` receives it.
 int cherche(const QString& cle, RecParam& trouve) {
-    const std::int32_t n =
-        compte_a_lire(lit_record<RecParam>(store(), 1).lit(RecParam::nb_param), store());
-    for (std::int32_t i = 1; i <= n; ++i) {
-        trouve = lit_record<RecParam>(store(), std::int64_t(i) + 1);
-        if (trouve.lit(RecParam::cle_param) == cle) return i;
-    }
-    return 0;
+    int numero = 0;
+    parcourt<RecParam>(store(), lit_record<RecParam>(store(), 1).lit(RecParam::nb_param),
+                       [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+                           trouve = record_de<RecParam>(rec);
+                           if (trouve.lit(RecParam::cle_param) != cle) return true;
+                           numero = i;
+                           return false;
+                       });
+    return numero;
 }
 
 } // namespace
@@ -61,7 +63,7 @@ void ecrit_param(const QString& cle, const QString& valeur) {
         // blank key, which matches nothing.
         const std::int64_t records = store().records();
         rec = lit_record<RecParam>(store(), 1);
-        const std::int32_t n = plus_un(compte_plausible(rec.lit(RecParam::nb_param), records));
+        const std::int32_t n = numero_suivant(rec.lit(RecParam::nb_param), records);
         rec.pose(RecParam::nb_param, n);
         ecrit_record(store(), 1, rec);
         ui::cede();

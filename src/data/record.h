@@ -7,9 +7,12 @@
 #include "data/fichier_records.h"
 #include "data/octets.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <QString>
+#include <span>
 
 namespace agenda {
 
@@ -57,6 +60,50 @@ Rec lit_record(const FichierRecords& f, std::int64_t r) {
 template <class Rec>
 void ecrit_record(FichierRecords& f, std::int64_t r, const Rec& rec) {
     f.ecrit(r, rec.octets);
+}
+
+// A record from bytes a scan holds.
+template <class Rec>
+Rec record_de(std::span<const std::uint8_t> octets) {
+    Rec rec;
+    std::copy_n(octets.begin(), std::min<std::size_t>(octets.size(), Rec::longueur),
+                rec.octets.begin());
+    return rec;
+}
+
+// Calls `visite(number, record bytes)` for numbers 1 to `compte` (records 2 to compte + 1), read
+// 512 records per system call, until the file ends or `visite` returns false. The records past
+// the end are not visited: they would read as blanks and zeros, so a count far past the end
+// costs nothing. A last record cut short is visited with its missing bytes blank.
+template <class Rec, class Visite>
+void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
+    constexpr std::int64_t par_bloc = 512;
+    // One block per thread and format, kept: a fresh one would be mapped and faulted in at
+    // every scan. It holds bytes only for one call; nothing is served from it later. Aligned to
+    // the page, so that the copy from the kernel does not depend on where the allocator puts it.
+    struct Bloc {
+        alignas(4096) std::array<std::uint8_t, par_bloc * Rec::longueur> octets;
+    };
+    thread_local const auto tampon = std::make_unique<Bloc>();
+    auto& bloc = tampon->octets;
+    for (std::int64_t premier = 1; premier <= compte; premier += par_bloc) {
+        const std::int64_t n = std::min<std::int64_t>(par_bloc, compte - premier + 1);
+        const std::size_t lu =
+            f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * Rec::longueur));
+        const std::int64_t complets = std::int64_t(lu) / Rec::longueur;
+        for (std::int64_t j = 0; j < complets; ++j)
+            if (!visite(
+                    std::int32_t(premier + j),
+                    std::span<const std::uint8_t>(bloc.data() + j * Rec::longueur, Rec::longueur)))
+                return;
+        if (complets < n) {
+            if (lu % Rec::longueur != 0) {
+                const Rec dernier = lit_record<Rec>(f, premier + complets + 1);
+                visite(std::int32_t(premier + complets), std::span(dernier.octets));
+            }
+            return;
+        }
+    }
 }
 
 template <class Rec>

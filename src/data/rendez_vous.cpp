@@ -12,50 +12,12 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <QByteArray>
 #include <vector>
 
 namespace agenda {
 
 namespace {
-
-// Scans read this many records per system call.
-constexpr std::int64_t records_par_bloc = 512;
-
-// Calls `visite(number, record bytes)` for numbers 1 to `compte`, reading in large blocks.
-// Records the file does not hold are not visited: they would read as blank.
-template <class Visite>
-void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
-    // One scratch block per thread, kept: a fresh one would be mapped and faulted in at every
-    // scan. It holds bytes only for the length of one call; nothing is served from it later.
-    // Aligned to the page, so that the copy from the kernel does not depend on where the
-    // allocator puts it.
-    struct Bloc {
-        alignas(4096) std::array<std::uint8_t, records_par_bloc * RecRv::longueur> octets;
-    };
-    thread_local const auto tampon = std::make_unique<Bloc>();
-    auto& bloc = tampon->octets;
-    for (std::int64_t premier = 1; premier <= compte; premier += records_par_bloc) {
-        const std::int64_t n = std::min<std::int64_t>(records_par_bloc, compte - premier + 1);
-        const std::size_t lu =
-            f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * RecRv::longueur));
-        const std::int64_t complets = std::int64_t(lu) / RecRv::longueur;
-        for (std::int64_t j = 0; j < complets; ++j) {
-            const auto rec =
-                std::span<const std::uint8_t>(bloc.data() + j * RecRv::longueur, RecRv::longueur);
-            if (!visite(static_cast<std::int32_t>(premier + j), rec)) return;
-        }
-        if (complets < n) {
-            // A last record cut short: read it on its own, so that its missing bytes are blank.
-            if (lu % RecRv::longueur != 0) {
-                const auto dernier = lit_record<RecRv>(f, premier + complets + 1);
-                visite(static_cast<std::int32_t>(premier + complets), std::span(dernier.octets));
-            }
-            return;
-        }
-    }
-}
 
 // An entry of the day list, built in one piece: it is made for every appointment of the day
 // at every load.
@@ -94,7 +56,7 @@ std::int32_t alloue_numero(FichierRecords& f) {
     // length: another workstation may be drawing at the same moment.
     const std::int64_t records = f.records();
     RecRv entete = lit_record<RecRv>(f, 1);
-    const std::int32_t n = plus_un(compte_plausible(entete.lit(RecRv::dernier_num), records));
+    const std::int32_t n = numero_suivant(entete.lit(RecRv::dernier_num), records);
     entete.pose(RecRv::dernier_num, n);
     ecrit_record(f, 1, entete);
     ui::cede();
@@ -138,7 +100,7 @@ QStringList scan_journee(FichierRecords& f, Date jour) {
     const std::int32_t compte = repare_entete(f);
     const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
-    parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+    parcourt<RecRv>(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
         if (motif.ouvre(rec)) liste.append(entree_du_jour(i, rec));
         return true;
     });
@@ -154,7 +116,7 @@ std::int32_t cherche_note(const QString& cle) {
     const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
     const DebutCle<9> motif(cle);
     std::int32_t trouve = 0;
-    parcourt(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+    parcourt<RecRv>(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
         if (!motif.ouvre(rec)) return true;
         trouve = i;
         return false;

@@ -61,12 +61,6 @@ constexpr std::array<ui::RectTwips, 12> minutes_face0 = {{
 // keep face 0's cells, as the window has them.
 constexpr int faces_sur_anneaux = 4;
 
-QString element(const QStringList& liste, int i) {
-    if (i < 0 || i >= liste.size())
-        throw Erreur(QStringLiteral("Indice hors limites (%1).").arg(i));
-    return liste[i];
-}
-
 std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& tailles,
                                            int rayon) {
     std::array<ui::RectTwips, 12> cellules{};
@@ -152,8 +146,8 @@ void Detarv::init_rv() {
     const QStringList liste = heures();
     etape([&] { Check2 = h >= 12 ? 1 : 0; });
     // An hour past the list (23 + 1) leaves the end empty; the end is computed again anyway.
-    etape([&] { Combo1 = element(liste, h); });
-    etape([&] { Combo3 = element(liste, h + 1); });
+    etape([&] { Combo1 = liste.value(h); });
+    etape([&] { Combo3 = liste.value(h + 1); });
     etape([&] { Combo2 = Combo4 = QStringLiteral("00"); });
 }
 
@@ -384,17 +378,22 @@ void Detarv::g2_Click(int ligne, int colonne) {
 
 void Detarv::remplit_services() {
     g1.clear();
-    // Services past the catalogue's end read blank: they are shown, as rows of the grid's
-    // minimum, but a count far past the end costs no more than the file holds.
-    const std::int32_t presents = compte_a_lire(etat.nb_services, canal_fichier(canal::arr));
-    const std::int32_t lignes = std::max(presents, std::min(etat.nb_services, lignes_services));
-    for (std::int32_t i = 1; i <= lignes; ++i) {
-        const RecArr s = lit_record<RecArr>(canal::arr, std::int64_t(i) + 1);
+    const auto ligne = [this](std::int32_t i, const RecArr& s) {
         g1.push_back(
             {sans_blancs(s.lit(RecArr::nom_arr)),
              motif_zeros(val(s.lit(RecArr::info_arr).left(3)), 1) + QStringLiteral(" mn  "),
              QString::number(i)});
-    }
+    };
+    parcourt<RecArr>(canal_fichier(canal::arr), etat.nb_services,
+                     [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+                         ligne(i, record_de<RecArr>(rec));
+                         return true;
+                     });
+    // Services past the catalogue's end read blank: they are shown, as rows of the grid's
+    // minimum, but a count far past the end costs no more than the file holds.
+    for (auto i = std::int32_t(g1.size()) + 1; i <= std::min(etat.nb_services, lignes_services);
+         ++i)
+        ligne(i, RecArr{});
     while (g1.size() < std::size_t(lignes_services))
         g1.push_back({});
 }

@@ -60,13 +60,13 @@ void ouvre_inter() {
         entete.pose(RecInter::cle_inter, marque_init);
         ecrit_record(intlog(), 1, entete);
     }
-    compte_inter = compte_a_lire(entete.lit(RecInter::nb_inter), intlog());
+    compte_inter = entete.lit(RecInter::nb_inter);
 }
 
 std::int32_t ajoute_inter() {
     const std::int64_t records = intlog().records();
     RecInter entete = lit_record<RecInter>(intlog(), 1);
-    const std::int32_t n = plus_un(compte_plausible(entete.lit(RecInter::nb_inter), records));
+    const std::int32_t n = numero_suivant(entete.lit(RecInter::nb_inter), records);
     entete.pose(RecInter::nb_inter, n);
     ecrit_record(intlog(), 1, entete);
     ecrit_record(intlog(), std::int64_t(n) + 1, RecInter{});
@@ -74,10 +74,15 @@ std::int32_t ajoute_inter() {
 }
 
 std::int32_t cherche_inter(const QString& cle) {
-    for (std::int32_t i = 1; i <= compte_inter; ++i)
-        if (lit_record<RecInter>(intlog(), std::int64_t(i) + 1).lit(RecInter::cle_inter) == cle)
-            return i;
-    return -1;
+    std::int32_t trouve = -1;
+    parcourt<RecInter>(
+        intlog(), compte_inter, [&](std::int32_t i, std::span<const std::uint8_t> r) {
+            if (octets::texte(r, RecInter::cle_inter.offset, RecInter::cle_inter.largeur) != cle)
+                return true;
+            trouve = i;
+            return false;
+        });
+    return trouve;
 }
 
 QString lit_inter(const QString& cle) {

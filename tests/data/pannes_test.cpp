@@ -1,10 +1,9 @@
-// The disk under the record files: the order of the writes that the shared files depend on, and
-// what a failing or short read or write leaves.
+// The disk under the record files: the order of the writes other workstations depend on, what a
+// failing or short write leaves, and hostile counts in every file that has one.
 
 #include "clients/client.h"
 #include "data/dossier.h"
 #include "data/fichier_records.h"
-#include "data/formats.h"
 #include "data/param.h"
 #include "data/rendez_vous.h"
 #include "editor/inter.h"
@@ -17,47 +16,26 @@ using namespace agenda;
 
 namespace {
 
-int longueur_record(const QString& chemin) {
-    for (const auto& [debut, longueur] :
-         {std::pair{"WTORV_IA", 144}, {"W_CAI038", 1024}, {"W_intlog", 128}})
-        if (chemin.startsWith(QLatin1String(debut))) return longueur;
-    return 512;
-}
-
-// Passes every call to the system, but records the writes as "file:record" and makes the Nth
-// write (from 1) fail with an error, or take only part of the bytes.
+// Passes every call to the system, recording each write as "file@offset" ("file@fin" for an
+// append); the Nth write (from 1) fails with `erreur`, or takes half of its bytes.
 class DisqueEspion : public Disque {
 public:
     ssize_t ecrit(int fd, const void* o, std::size_t n, off_t pos, const QString& chemin) override {
-        ++ecritures;
-        if (ecritures == panne_ecriture) {
+        if (++ecritures == panne) {
             if (court) return Disque::ecrit(fd, o, n / 2, pos, chemin);
             errno = erreur;
             return -1;
         }
-        const int longueur = longueur_record(chemin);
-        if (pos % longueur == 0)
-            ordre << QStringLiteral("%1:%2").arg(chemin).arg(pos / longueur + 1);
+        ordre << QStringLiteral("%1@%2").arg(chemin).arg(pos);
         return Disque::ecrit(fd, o, n, pos, chemin);
     }
     ssize_t ajoute(int fd, const void* o, std::size_t n, const QString& chemin) override {
-        ++ecritures;
-        ordre << chemin + QStringLiteral(":fin");
+        ordre << chemin + QStringLiteral("@fin");
         return Disque::ajoute(fd, o, n, chemin);
     }
-    ssize_t lit(int fd, void* o, std::size_t n, off_t pos, const QString& chemin) override {
-        if (++lectures == panne_lecture) {
-            errno = EIO;
-            return -1;
-        }
-        return Disque::lit(fd, o, n, pos, chemin);
-    }
-
     QStringList ordre;
-    int ecritures = 0, lectures = 0;
-    int panne_ecriture = 0, panne_lecture = 0;
+    int ecritures = 0, panne = 0, erreur = 0;
     bool court = false;
-    int erreur = ENOSPC;
 };
 
 class Pannes : public agenda::test::DossierDonnees {
@@ -70,127 +48,79 @@ protected:
         fixe_disque(nullptr);
         DossierDonnees::TearDown();
     }
+    // One new record in each file that counts its records in a header.
+    static void nouveau_rv() {
+        ouvre_rv();
+        alloue_numero(canal_fichier(canal::rv));
+    }
+    static void nouvelle_cle() { ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("1")); }
+    static void nouveau_message() { ecrit_inter(QStringLiteral("A"), QStringLiteral("1")); }
+    static void nouveau_client() {
+        ouvre_clients();
+        cree_client();
+    }
     DisqueEspion disque;
 };
 
 } // namespace
 
 TEST_F(Pannes, LesEcrituresDansLOrdreQueLesAutresPostesAttendent) {
-    struct Cas {
-        const char* nom;
-        std::function<void()> action;
-        QStringList ordre;
-    };
-    for (const Cas& c : std::vector<Cas>{
-             {"un numéro : l'en-tête, puis l'enregistrement vide à la fin",
-              [] {
-                  canal_fichier(canal::rv).ouvre(QStringLiteral("tf_r0000.wdo"), 512);
-                  alloue_numero(canal_fichier(canal::rv));
-              },
-              {"tf_r0000.wdo:1", "tf_r0000.wdo:fin"}},
-             {"une clé nouvelle : l'en-tête compté, puis la clé",
-              [] { ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("255")); },
-              {"WTORV_IA.WDO:1", "WTORV_IA.WDO:2"}},
-             {"un client : l'en-tête, puis sa fiche",
-              [] {
-                  ouvre_clients();
-                  cree_client();
-              },
-              {"W_CAI038.WDO:1", "W_CAI038.WDO:2", "W_CAI038.WDO:1", "W_CAI038.WDO:3"}},
-             {"le fichier de messages neuf : compte, entrée vide, marque, puis la valeur "
-              "par-dessus",
-              [] { ecrit_inter(QStringLiteral("TORVA:NUMUSER"), QStringLiteral("0001")); },
-              {"W_intlog.wdo:1", "W_intlog.wdo:2", "W_intlog.wdo:1", "W_intlog.wdo:1",
-               "W_intlog.wdo:2", "W_intlog.wdo:2"}},
-         }) {
-        SCOPED_TRACE(c.nom);
+    const std::pair<void (*)(), QStringList> cas[] = {
+        {nouveau_rv, {"tf_r0000.wdo@0", "tf_r0000.wdo@fin"}},   // the header, then the record
+        {nouvelle_cle, {"WTORV_IA.WDO@0", "WTORV_IA.WDO@144"}}, // the count before the key
+        {nouveau_client, // the first use, then a client: the header first each time
+         {"W_CAI038.WDO@0", "W_CAI038.WDO@1024", "W_CAI038.WDO@0", "W_CAI038.WDO@2048"}},
+        {nouveau_message, // the mark, then the first entry over the blank one
+         {"W_intlog.wdo@0", "W_intlog.wdo@128", "W_intlog.wdo@0", "W_intlog.wdo@0",
+          "W_intlog.wdo@128", "W_intlog.wdo@128"}}};
+    for (const auto& [action, ordre] : cas) {
         disque.ordre.clear();
-        c.action();
-        EXPECT_EQ(disque.ordre, c.ordre);
+        action();
+        EXPECT_EQ(disque.ordre, ordre);
     }
 }
 
-TEST_F(Pannes, UneEcritureQuiEchoueFinitAvecLeFichierEtLaVraieRaison) {
-    struct Cas {
-        int erreur;
-        bool court;
-        const char* raison;
-    };
-    for (const Cas c : {Cas{ENOSPC, false, "plus de place sur le disque"},
-                        {EROFS, false, "disque en lecture seule"},
-                        {EIO, false, "erreur d'entrée-sortie du disque"}}) {
+TEST_F(Pannes, UneEcritureQuiEchoueDitLeFichierEtLaVraieRaisonUneCourteEstCompletee) {
+    const std::pair<int, const char*> raisons[] = {{ENOSPC, "plus de place sur le disque"},
+                                                   {EROFS, "disque en lecture seule"},
+                                                   {EIO, "erreur d'entrée-sortie du disque"}};
+    for (const auto& [numero, raison] : raisons) {
         disque = {};
-        disque.panne_ecriture = 1;
-        disque.erreur = c.erreur;
+        disque.panne = 1;
+        disque.erreur = numero;
         try {
-            ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("255"));
-            ADD_FAILURE() << c.raison;
+            nouvelle_cle();
+            ADD_FAILURE() << raison;
         } catch (const Erreur& e) {
-            EXPECT_EQ(e.message(), QStringLiteral("Erreur d'accès au fichier WTORV_IA.WDO "
-                                                  "(écriture) : %1.")
-                                       .arg(QString::fromUtf8(c.raison)));
+            EXPECT_EQ(e.message(),
+                      QStringLiteral("Erreur d'accès au fichier WTORV_IA.WDO (écriture) : %1.")
+                          .arg(QString::fromUtf8(raison)));
         }
     }
-}
-
-TEST_F(Pannes, UneEcritureCourteEstCompleteeEtUneLectureQuiEchoueSeDit) {
-    disque.panne_ecriture = 2;
+    disque = {};
+    disque.panne = 1;
     disque.court = true;
-    auto& f = canal_fichier(canal::rv);
-    f.ouvre(QStringLiteral("tf_r0000.wdo"), 512);
-    EXPECT_EQ(alloue_numero(f), 1);
+    nouveau_rv();
     EXPECT_EQ(contenu(QStringLiteral("tf_r0000.wdo")),
               agenda::test::rv_entete(1) +
                   agenda::test::rv_vierge().texte(510, 2, "\r\n").octets());
-
-    disque.panne_lecture = disque.lectures + 1;
-    try {
-        charge_journee();
-        ADD_FAILURE();
-    } catch (const Erreur& e) {
-        EXPECT_TRUE(e.message().endsWith(QStringLiteral("(lecture) : erreur d'entrée-sortie du "
-                                                        "disque.")))
-            << e.message().toStdString();
-    }
 }
 
 TEST_F(Pannes, UnCompteHostileNeCouteRienEtNAllongeQueDUnRecord) {
-    struct Fichier {
-        const char* nom;
-        int longueur, offset_compte;
-        std::function<void()> operation;
-    };
-    const std::vector<Fichier> fichiers = {
-        {"tf_r0000.wdo", 512, 466,
-         [] {
-             ouvre_rv();
-             charge_journee();
-             alloue_numero(canal_fichier(canal::rv));
-         }},
-        {"WTORV_IA.WDO", 144, 110,
-         [] {
-             lit_valeur_param(QStringLiteral("TORVA:HEURE"));
-             ecrit_param(QStringLiteral("COUL_RV"), QStringLiteral("1"));
-         }},
-        {"W_intlog.wdo", 128, 124,
-         [] { ecrit_inter(QStringLiteral("TORVA:RETOUR"), QStringLiteral("x")); }},
-        {"W_CAI038.WDO", 1024, 254,
-         [] {
-             ouvre_clients();
-             cree_client();
-         }},
-    };
-    for (const std::int32_t compte : {0x7FFFFFFF, std::int32_t(0x80000000), -1, 0x20202020}) {
-        for (const Fichier& f : fichiers) {
-            SCOPED_TRACE(QStringLiteral("%1 %2").arg(f.nom).arg(compte).toStdString());
-            agenda::test::Gabarit entete(f.longueur);
-            entete.i32(f.offset_compte, compte);
-            if (QByteArray(f.nom) == "W_intlog.wdo") entete.texte(0, 15, "#INIT#");
-            const QByteArray avant =
-                entete.octets() + QByteArray(f.longueur, 'x') + QByteArray(f.longueur, 'y');
-            ecrit(QString::fromLatin1(f.nom), avant);
-            etape([&] { f.operation(); }); // a clean error (an overflow) is a result too
-            EXPECT_LE(contenu(QString::fromLatin1(f.nom)).size(), avant.size() + f.longueur);
+    const std::tuple<const char*, int, int, void (*)()> fichiers[] = {
+        {"tf_r0000.wdo", 512, 466, nouveau_rv},
+        {"WTORV_IA.WDO", 144, 110, nouvelle_cle},
+        {"W_intlog.wdo", 128, 124, nouveau_message},
+        {"W_CAI038.WDO", 1024, 254, nouveau_client}};
+    for (const std::int32_t compte : {INT32_MAX, INT32_MIN, -1, 0x20202020}) {
+        for (const auto& [nom, longueur, offset, operation] : fichiers) {
+            SCOPED_TRACE(QStringLiteral("%1 %2").arg(nom).arg(compte).toStdString());
+            agenda::test::Gabarit entete(longueur);
+            entete.i32(offset, compte).texte(0, 6, "#INIT#"); // the message file's mark
+            const QByteArray avant = entete.octets() + QByteArray(2 * longueur, 'x');
+            ecrit(QString::fromLatin1(nom), avant);
+            etape(operation); // a clean error (an overflow) is a result too
+            EXPECT_LE(contenu(QString::fromLatin1(nom)).size(), avant.size() + longueur);
             ferme_tous_les_canaux();
         }
     }

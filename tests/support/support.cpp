@@ -3,50 +3,50 @@
 #include "data/fichier_records.h"
 #include "ui/systeme.h"
 
-#include <cstring>
 #include <QDir>
 #include <QFile>
 
 namespace agenda::test {
 
-Gabarit& Gabarit::texte(int offset, int largeur, const char* octets) {
-    const auto n = std::min<std::size_t>(std::strlen(octets), std::size_t(largeur));
-    std::memset(octets_.data() + offset, ' ', std::size_t(largeur));
-    std::memcpy(octets_.data() + offset, octets, n);
+Gabarit& Gabarit::pose(int offset, const QByteArray& octets) {
+    octets_.replace(offset, octets.size(), octets);
     return *this;
 }
 
-Gabarit& Gabarit::i32(int offset, std::int32_t v) {
-    const auto u = static_cast<std::uint32_t>(v);
-    for (int i = 0; i < 4; ++i)
-        octets_[std::size_t(offset + i)] = std::uint8_t(u >> (8 * i));
+Gabarit& Gabarit::entier(int offset, std::uint32_t v, int n) {
+    for (int i = 0; i < n; ++i)
+        octets_[offset + i] = char(v >> (8 * i));
     return *this;
 }
 
-Gabarit& Gabarit::i16(int offset, std::int16_t v) {
-    const auto u = static_cast<std::uint16_t>(v);
-    octets_[std::size_t(offset)] = std::uint8_t(u);
-    octets_[std::size_t(offset + 1)] = std::uint8_t(u >> 8);
+Gabarit& Gabarit::texte(std::initializer_list<std::tuple<int, int, const char*>> champs) {
+    for (const auto& [offset, largeur, latin1] : champs)
+        texte(offset, largeur, latin1);
     return *this;
 }
 
-Gabarit& Gabarit::zeros(int offset, int n) {
-    std::memset(octets_.data() + offset, 0, std::size_t(n));
+Gabarit& Gabarit::i32(std::initializer_list<std::pair<int, std::int32_t>> champs) {
+    for (const auto& [offset, v] : champs)
+        i32(offset, v);
     return *this;
-}
-
-QByteArray Gabarit::octets() const {
-    return QByteArray(reinterpret_cast<const char*>(octets_.data()), qsizetype(octets_.size()));
 }
 
 Gabarit rv_vierge() {
-    Gabarit g(512);
-    g.zeros(422, 48);
-    return g;
+    return Gabarit(512).zeros(422, 48);
 }
 
 QByteArray rv_entete(std::int32_t dernier) {
     return rv_vierge().i32(466, dernier).octets();
+}
+
+QByteArray rv(const char* cle, const char* texte, std::int32_t couleur, std::int32_t client) {
+    return rv_vierge()
+        .texte(0, 20, cle)
+        .texte(20, 402, texte)
+        .i32(438, client)
+        .i32(446, couleur)
+        .texte(510, 2, "\r\n")
+        .octets();
 }
 
 void DossierDonnees::SetUp() {
@@ -55,8 +55,7 @@ void DossierDonnees::SetUp() {
     ASSERT_TRUE(QDir::setCurrent(dossier_.path()));
     ferme_tous_les_canaux();
     etat = Etat{};
-    fixe_maintenant(QDateTime(QDate(2004, 3, 3), QTime(10, 0)));
-    ui::fixe_horloge([this] { return maintenant_; });
+    ui::fixe_horloge([] { return QDateTime(QDate(2004, 3, 3), QTime(10, 0)); });
     ui::fixe_fin([](int code) { throw FinDemandee{code}; });
     ui::fixe_lanceur([](const QString&) { return true; });
 }
@@ -67,10 +66,6 @@ void DossierDonnees::TearDown() {
     ui::fixe_fin({});
     ui::fixe_lanceur({});
     QDir::setCurrent(ancien_);
-}
-
-void DossierDonnees::fixe_maintenant(const QDateTime& t) {
-    maintenant_ = t;
 }
 
 QByteArray DossierDonnees::contenu(const QString& nom) const {
@@ -84,10 +79,32 @@ void DossierDonnees::ecrit(const QString& nom, const QByteArray& octets) const {
     f.write(octets);
 }
 
-void DossierDonnees::ajoute(const QString& nom, const QByteArray& octets) const {
-    QFile f(chemin(nom));
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Append));
-    f.write(octets);
+void Livre::SetUp() {
+    DossierDonnees::SetUp();
+    ecrit(QStringLiteral("lien_agenda.txt"), "01 : Sophie\r\n02 : Julien\r\n");
+    livre = std::make_unique<Torva1>();
+}
+
+void Livre::TearDown() {
+    livre.reset();
+    DossierDonnees::TearDown();
+}
+
+void Livre::rendez_vous(const QString& fichier, const std::vector<const char*>& cles) {
+    QByteArray octets = rv_entete(int(cles.size()));
+    int couleur = 0x101010;
+    for (const char* cle : cles)
+        octets += rv(cle, "  Coupe  ", couleur++);
+    ecrit(fichier, octets);
+}
+
+int Livre::charge() {
+    try {
+        livre->charge();
+    } catch (const FinDemandee& f) {
+        return f.code;
+    }
+    return -1;
 }
 
 } // namespace agenda::test

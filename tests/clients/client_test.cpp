@@ -18,13 +18,10 @@ const QString fichier = QStringLiteral("W_CAI038.WDO");
 QByteArray nouveau(const char* code, const char* nom, const char* zones = "",
                    std::int32_t dernier = 0) {
     return Gabarit(1024)
-        .texte(0, 15, code)
-        .texte(15, 40, nom)
+        .texte({{0, 15, code}, {15, 40, nom}, {260, 5, zones}, {265, 5, zones}})
         .zeros(250, 4)
         .i32(254, dernier)
         .i16(258, 9)
-        .texte(260, 5, zones)
-        .texte(265, 5, zones)
         .zeros(270, 16)
         .zeros(430, 2)
         .octets();

@@ -31,10 +31,10 @@ protected:
 TEST_F(Formats, ChampsAuxOffsetsDesTables) {
     const auto [r, rv_blanc] =
         lit<RecRv>(agenda::test::rv_vierge()
-                       .texte(0, 20, "040303:09H30:10H15")
-                       .texte(20, 402, "Coupe \x80 Mme No\x9C")
+                       .texte({{0, 20, "040303:09H30:10H15"},
+                               {20, 402, "Coupe \x80 Mme No\x9C"},
+                               {490, 20, "0611223344040303"}})
                        .i32({{434, 45}, {438, 17}, {442, 96}, {446, 0xC0FFC0}, {450, 1}, {466, 9}})
-                       .texte(490, 20, "0611223344040303")
                        .octets());
     EXPECT_EQ(r.lit(RecRv::texte_rv).trimmed(), QStringLiteral("Coupe € Mme Noœ"));
     EXPECT_EQ(
@@ -49,9 +49,8 @@ TEST_F(Formats, LesOctetsDuPointDeVenteRestentTelsQuels) {
     // Catalogue and client records full of the other program's bytes: the named fields read
     // where they are (the format fuzzer holds that a record written back is the same bytes).
     const QByteArray service = Gabarit(256, 0xCD)
-                                   .texte(15, 40, "Coupe femme")
+                                   .texte({{15, 40, "Coupe femme"}, {113, 101, "045 et le reste"}})
                                    .i32(105, 12)
-                                   .texte(113, 101, "045 et le reste")
                                    .octets();
     const auto [s, s_blanc] = lit<RecArr>(service);
     EXPECT_EQ(s.lit(RecArr::nom_arr).trimmed() + s.lit(RecArr::info_arr).left(3),
@@ -60,8 +59,7 @@ TEST_F(Formats, LesOctetsDuPointDeVenteRestentTelsQuels) {
     EXPECT_EQ(s_blanc, Gabarit(256).zeros(55, 28).zeros(105, 8).zeros(214, 42).octets());
 
     const QByteArray client = Gabarit(1024, 0xEE)
-                                  .texte(15, 40, "DURAND Marie")
-                                  .texte(205, 15, "01.02.03.04.05")
+                                  .texte({{15, 40, "DURAND Marie"}, {205, 15, "01.02.03.04.05"}})
                                   .i32(254, 41)
                                   .i16(430, 1)
                                   .octets();

@@ -28,11 +28,11 @@ dessus() {
 # A click at (x, y) twips of a window whose top-left is (ox, oy) pixels: clic OX OY X Y
 clic() { xdotool mousemove $(python3 -c "print(int($1 + $3 * $e), int($2 + $4 * $e))") click 1; }
 cle() { python3 -c "print(open('$rv','rb').read()[-512:-492].decode('latin-1'))"; }
+taille() { stat -c %s $rv; }
 est() { [ "$($1)" = "$2" ]; }
-# Window $1 above window $2: xwininfo lists them from the top down.
+# A window's rank on the screen, from the top (as xwininfo lists them); the program's age.
 rang() { xwininfo -root -children | awk -v w="$(printf '0x%x' "$1")" '$1 == w { print NR }'; }
 age() { [ "$(ps -o etimes= -p "$pid" | tr -d ' ')" -ge "$1" ]; }
-taille() { stat -c %s $rv; }
 
 cd "$SORTIE/donnees" || exit 1
 env -u QT_QPA_PLATFORM "$AGENDA" 2> "$SORTIE/agenda.err" &
@@ -40,8 +40,7 @@ pid=$!
 trouve() { livre=$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1); [ -n "$livre" ]; }
 jusqua trouve || echec "aucune fenêtre Agenda"
 eval "$(xdotool getwindowgeometry --shell "$livre")"
-LX=$X LY=$Y e=$(python3 -c "print($WIDTH / 15360)")
-avant=$(taille)
+LX=$X LY=$Y e=$(python3 -c "print($WIDTH / 15360)") avant=$(taille)
 
 # The demo's hours are 08:13:19, so 14 h is the second hour of the right page: 1100 + 1517.
 clic $LX $LY 10100 2917
@@ -74,6 +73,5 @@ import -window root "$SORTIE/efface.png"
 xdotool windowfocus --sync "$livre" 2>/dev/null
 xdotool key Escape
 fini() { ! kill -0 $pid 2>/dev/null; }
-jusqua fini || echec "Escape n'a pas fermé Agenda"
-wait $pid || echec "Agenda a fini avec le statut $?"
+jusqua fini && wait $pid || echec "Escape n'a pas fermé Agenda, ou pas proprement"
 echo "captures : $SORTIE/cree.png $SORTIE/efface.png"

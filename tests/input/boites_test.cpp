@@ -57,35 +57,30 @@ TEST_F(Boites, InviteSelonLeModeEtLaSortie) {
 }
 
 TEST_F(Boites, ChoixDeDateSelonLaSortie) {
-    const Date livre = ui::date_de(QDate(1999, 1, 1)), mercredi = ui::date_de(QDate(2004, 3, 3)),
-               jeudi = ui::date_de(QDate(2004, 3, 4));
-    // The gesture, then date_courante and texte_retour afterwards.
-    for (const auto& [geste, date, retour] :
-         std::vector<std::tuple<std::function<void(Date97&)>, Date, const char*>>{
-             {[](Date97& d) { d.btc_Click(2); }, mercredi, "Mercredi 03 mars 2004"}, // today
-             {[&](Date97& d) {
-                  d.MonthView1_DateClick(jeudi);
-                  EXPECT_EQ(d.Label1 + etat.texte_retour,
-                            QStringLiteral("Jeudi 04 mars 2004Jeudi 04 mars 2004"));
-                  d.btc_Click(2);
-              },
-              jeudi, "Jeudi 04 mars 2004"},
-             {[&](Date97& d) { d.MonthView1_DateDblClick(jeudi); }, jeudi, "Jeudi 04 mars 2004"},
-             {[&](Date97& d) { // the clicked day stays, though the caller reads a cancel
-                  d.MonthView1_DateClick(jeudi);
-                  d.btc_Click(3);
-              },
-              jeudi, ""},
-         }) {
+    const Date livre = ui::date_de(QDate(1999, 1, 1)), jeudi = ui::date_de(QDate(2004, 3, 4));
+    // Opens on today, whatever the book shows; returns texte_retour, date_courante stays set.
+    const auto choisit = [&](std::function<void(Date97&)> geste) {
         etat.date_courante = livre;
         ui::scenario<Date97>([&](Date97& d) {
-            EXPECT_EQ(d.MonthView1, mercredi); // opens on today
+            EXPECT_EQ(d.MonthView1, ui::date_de(QDate(2004, 3, 3)));
             geste(d);
             EXPECT_TRUE(d.fermee());
         });
         Date97 choix;
         ui::montre_modal(choix);
-        EXPECT_EQ(etat.date_courante, date);
-        EXPECT_EQ(etat.texte_retour, QString::fromUtf8(retour));
-    }
+        return etat.texte_retour;
+    };
+    EXPECT_EQ(choisit([](Date97& d) { d.btc_Click(2); }), QStringLiteral("Mercredi 03 mars 2004"));
+    EXPECT_EQ(choisit([&](Date97& d) { d.MonthView1_DateDblClick(jeudi); }),
+              QStringLiteral("Jeudi 04 mars 2004"));
+    EXPECT_EQ(etat.date_courante, jeudi);
+    // A click writes the day at once; a cancel then leaves it, though the caller reads nothing.
+    EXPECT_EQ(choisit([&](Date97& d) {
+                  d.MonthView1_DateClick(jeudi);
+                  EXPECT_EQ(d.Label1 + etat.texte_retour,
+                            QStringLiteral("Jeudi 04 mars 2004Jeudi 04 mars 2004"));
+                  d.btc_Click(3);
+              }),
+              QString());
+    EXPECT_EQ(etat.date_courante, jeudi);
 }

@@ -41,11 +41,8 @@ QByteArray rv_entete(std::int32_t dernier) {
 
 QByteArray rv(const char* cle, const char* texte, std::int32_t couleur, std::int32_t client) {
     return rv_vierge()
-        .texte(0, 20, cle)
-        .texte(20, 402, texte)
-        .i32(438, client)
-        .i32(446, couleur)
-        .texte(510, 2, "\r\n")
+        .texte({{0, 20, cle}, {20, 402, texte}, {510, 2, "\r\n"}})
+        .i32({{438, client}, {446, couleur}})
         .octets();
 }
 

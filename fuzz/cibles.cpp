@@ -38,7 +38,7 @@ void ecrit_fichier(const char* nom, const std::uint8_t* octets, std::size_t n) {
 
 // The input as several files: each piece is a 2-byte little-endian length, then its bytes.
 [[maybe_unused]] void ecrit_dossier(const std::uint8_t* octets, std::size_t n,
-                   std::initializer_list<const char*> noms) {
+                                    std::initializer_list<const char*> noms) {
     for (const char* nom : noms) {
         std::size_t lg = 0;
         if (n >= 2) {
@@ -110,8 +110,8 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     d.sauve_rv();
 #elif CIBLE == 6
     ecrit_dossier(octets, n,
-                  {"lien_agenda.txt", "WTORV_IA.WDO", "W_intlog.wdo", "tf_r0000.wdo", "w_arr104.wdo",
-                   "w_cai020.wdo"});
+                  {"lien_agenda.txt", "WTORV_IA.WDO", "W_intlog.wdo", "tf_r0000.wdo",
+                   "w_arr104.wdo", "w_cai020.wdo"});
     Torva1 livre;
     livre.charge();
     livre.Picture3_Click();

@@ -5,8 +5,10 @@
 #include "data/rendez_vous.h"
 #include "data/texte.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
+#include <QFile>
 #include <QRandomGenerator>
 #include <unistd.h>
 #include <vector>
@@ -17,6 +19,9 @@ void genere_rendez_vous(std::int16_t collab, int records, int du_jour) {
     std::vector<std::uint8_t> tout(std::size_t(records) * RecRv::longueur);
     QRandomGenerator rng(42);
     std::vector<bool> sur_le_jour(std::size_t(records), false);
+    // Ten years, or more for a larger file so that a day keeps a few dozen appointments at most;
+    // never a hundred years, where two dates would share a key.
+    const int etendue = std::clamp(records / 20, 3600, 36000);
     for (int n = 0; n < du_jour;) {
         const int i = 1 + int(rng.bounded(records - 1));
         if (!sur_le_jour[std::size_t(i)]) {
@@ -30,7 +35,7 @@ void genere_rendez_vous(std::int16_t collab, int records, int du_jour) {
         if (r == 1) {
             rec.pose(RecRv::dernier_num, records - 1);
         } else {
-            Date d = jour - 1800 + rng.bounded(3600);
+            Date d = jour - etendue / 2 + rng.bounded(etendue);
             if (sur_le_jour[std::size_t(r - 1)])
                 d = jour;
             else if (d == jour)
@@ -49,6 +54,16 @@ void genere_rendez_vous(std::int16_t collab, int records, int du_jour) {
     const bool ecrit = fd >= 0 && ::pwrite(fd, tout.data(), tout.size(), 0) == ssize_t(tout.size());
     if (fd >= 0) ::close(fd);
     if (!ecrit) std::abort();
+}
+
+void prepare_dossier_livre(int records) {
+    QFile lien(QStringLiteral("lien_agenda.txt"));
+    if (!lien.open(QIODevice::WriteOnly)) std::abort();
+    for (int i = 1; i <= 20; ++i)
+        lien.write(
+            QStringLiteral("%1 : Collaborateur %1\r\n").arg(i, 2, 10, QLatin1Char('0')).toLatin1());
+    lien.close();
+    genere_rendez_vous(0, records, 12);
 }
 
 } // namespace agenda::bench

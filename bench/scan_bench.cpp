@@ -10,6 +10,8 @@
 #include "generateur.h"
 #include "ui/dates.h"
 
+#include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <fcntl.h>
@@ -17,6 +19,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
+#include <string>
 #include <unistd.h>
 #include <vector>
 
@@ -24,45 +27,66 @@ using namespace agenda;
 
 namespace {
 
-constexpr int records = 32767; // the header and 32,766 appointments
-constexpr int du_jour = 200;
 using bench::jour;
+
+// The files measured, one collaborator's each: its records (the header included) and how many
+// are on the day. A dozen is a full day; 200 on 1,000 records is the stress of the day list.
+// 32,767 is the most a 16-bit count can number; beyond it the count is read as 32 bits.
+struct Cas {
+    int records, du_jour;
+};
+constexpr std::array<Cas, 5> cas = {
+    {{1000, 12}, {32767, 12}, {1000000, 12}, {1000, 200}, {32767, 200}}};
+
+std::int16_t collab_de(const benchmark::State& state) {
+    for (std::size_t i = 0; i < cas.size(); ++i)
+        if (cas[i].records == state.range(0) && cas[i].du_jour == state.range(1))
+            return std::int16_t(i + 1);
+    std::abort();
+}
+
+void tailles(benchmark::internal::Benchmark* b) {
+    for (const Cas& c : cas)
+        b->Args({c.records, c.du_jour});
+}
 
 void BM_lecture_sequentielle(benchmark::State& state) {
     std::vector<char> bloc(1 << 17);
+    const QByteArray nom = nom_fichier_rv(collab_de(state), false).toLatin1();
     for (auto _ : state) {
-        const int fd = ::open("tf_r0000.wdo", O_RDONLY);
+        const int fd = ::open(nom.constData(), O_RDONLY);
         std::size_t total = 0;
         for (ssize_t n; (n = ::read(fd, bloc.data(), bloc.size())) > 0;)
             total += std::size_t(n);
         ::close(fd);
         benchmark::DoNotOptimize(total);
     }
-    state.SetBytesProcessed(state.iterations() * std::int64_t(records) * RecRv::longueur);
+    state.SetBytesProcessed(state.iterations() * state.range(0) * RecRv::longueur);
 }
-BENCHMARK(BM_lecture_sequentielle)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_lecture_sequentielle)->Apply(tailles);
 
 void BM_charge_journee(benchmark::State& state) {
+    etat.num_collab = collab_de(state);
     ouvre_rv();
     etat.date_courante = jour;
     for (auto _ : state) {
         charge_journee();
-        if (etat.nb_jour() != du_jour) state.SkipWithError("wrong day count");
+        if (etat.nb_jour() != state.range(1)) state.SkipWithError("wrong day count");
     }
-    state.SetBytesProcessed(state.iterations() * std::int64_t(records) * RecRv::longueur);
+    state.SetBytesProcessed(state.iterations() * state.range(0) * RecRv::longueur);
 }
-BENCHMARK(BM_charge_journee)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_charge_journee)->Apply(tailles);
 
 // Keeps each benchmark's time per iteration, for the ratio.
 class Rapport : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& r : runs)
-            if (r.run_type == Run::RT_Iteration)
-                temps[r.benchmark_name()] = r.GetAdjustedRealTime();
+            if (r.run_type == Run::RT_Aggregate && r.aggregate_name == "median")
+                temps[r.run_name.function_name][r.run_name.args] = r.GetAdjustedRealTime();
         ConsoleReporter::ReportRuns(runs);
     }
-    std::map<std::string, double> temps;
+    std::map<std::string, std::map<std::string, double>> temps;
 };
 
 } // namespace
@@ -71,16 +95,26 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     QTemporaryDir dossier;
     QDir::setCurrent(dossier.path());
-    bench::genere_rendez_vous(0, records, du_jour);
-    benchmark::Initialize(&argc, argv);
+    for (std::size_t i = 0; i < cas.size(); ++i)
+        bench::genere_rendez_vous(std::int16_t(i + 1), cas[i].records, cas[i].du_jour);
+    std::vector<char*> args(argv, argv + argc);
+    char repetitions[] = "--benchmark_repetitions=5";
+    char melange[] = "--benchmark_enable_random_interleaving=true";
+    char agreges[] = "--benchmark_report_aggregates_only=true";
+    args.insert(args.begin() + 1, {repetitions, melange, agreges});
+    int n = int(args.size());
+    benchmark::Initialize(&n, args.data());
     Rapport rapport;
     benchmark::RunSpecifiedBenchmarks(&rapport);
     ferme_tous_les_canaux();
-    const double scan = rapport.temps["BM_charge_journee"];
-    const double lecture = rapport.temps["BM_lecture_sequentielle"];
-    if (scan > 0 && lecture > 0)
-        std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : %.2f\n",
-                    records, du_jour, scan / lecture);
+    for (const auto& [records, du_jour] : cas) {
+        const std::string arg = std::to_string(records) + "/" + std::to_string(du_jour);
+        const double scan = rapport.temps["BM_charge_journee"][arg];
+        const double lecture = rapport.temps["BM_lecture_sequentielle"][arg];
+        if (scan > 0 && lecture > 0)
+            std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : %.2f\n",
+                        records, du_jour, scan / lecture);
+    }
     benchmark::Shutdown();
     return 0;
 }

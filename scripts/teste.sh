@@ -44,7 +44,10 @@ for c in "${cibles[@]}"; do
     grep -E "^Done" "$journal" | sed "s/^/fuzz_$c : /"
 done
 
-"$racine/build-test/bench/agenda_bench" --benchmark_min_time=0.2
-# The windows against bare Qt windows, in an X server: ratios printed, nothing asserted.
-xvfb-run -a -s "-screen 0 1280x1024x24" "$racine/build-test/bench/agenda_bench_fenetres" \
-    --benchmark_repetitions=5 2>&1 | grep -E "median|×" || echo "(le banc des fenêtres n'a pas tourné)"
+# Ratios printed, nothing asserted: the day scan against a plain read; in an X server, the
+# windows against bare Qt windows, and the whole program's start and memory against a bare one.
+"$racine/build-test/bench/agenda_bench" --benchmark_min_time=0.2 2>&1 | grep -E "median|séq"
+for banc in agenda_bench_fenetres agenda_bench_demarrage; do
+    xvfb-run -a -s "-screen 0 1280x1024x24" "$racine/build-test/bench/$banc" 2>&1 |
+        grep -E "median|×" || echo "($banc n'a pas tourné)"
+done

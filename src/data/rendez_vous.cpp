@@ -8,11 +8,13 @@
 #include "ui/dates.h"
 #include "ui/systeme.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <QByteArray>
+#include <string_view>
 #include <vector>
 
 namespace agenda {
@@ -23,15 +25,33 @@ namespace {
 // at every load.
 QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     constexpr int debut_cle = 19;
-    char suite[48];
-    const int n = std::snprintf(suite, sizeof suite, "%06d:%dxxxxxxxxx:%d", i,
-                                octets::i32(rec, RecRv::encadre_rv.offset),
-                                octets::i32(rec, RecRv::couleur_rv.offset));
-    QString e(debut_cle + n, Qt::Uninitialized);
+    // std::to_chars rather than a formatted print: this runs for every entry at every load.
+    struct Nombre {
+        explicit Nombre(std::int32_t v) : fin(std::to_chars(chiffres, chiffres + 11, v).ptr) {}
+        int taille() const { return int(fin - chiffres); }
+        char chiffres[11];
+        const char* fin;
+    };
+    const Nombre numero(i), cadre(octets::i32(rec, RecRv::encadre_rv.offset)),
+        couleur(octets::i32(rec, RecRv::couleur_rv.offset));
+    const int zeros = std::max(0, 6 - numero.taille());
+    constexpr std::string_view milieu = "xxxxxxxxx:";
+    QString e(debut_cle + zeros + numero.taille() + 1 + cadre.taille() + int(milieu.size()) +
+                  couleur.taille(),
+              Qt::Uninitialized);
+    QChar* c = e.data();
     for (int k = 0; k < debut_cle; ++k)
-        e[k] = octets::car_cp1252(rec[std::size_t(RecRv::cle_rv.offset + k)]);
-    for (int k = 0; k < n; ++k)
-        e[debut_cle + k] = QLatin1Char(suite[k]);
+        *c++ = octets::car_cp1252(rec[std::size_t(RecRv::cle_rv.offset + k)]);
+    const auto ajoute = [&](std::string_view t) {
+        for (const char x : t)
+            *c++ = QLatin1Char(x);
+    };
+    ajoute(std::string_view("000000", std::size_t(zeros)));
+    ajoute(std::string_view(numero.chiffres, numero.fin));
+    ajoute(":");
+    ajoute(std::string_view(cadre.chiffres, cadre.fin));
+    ajoute(milieu);
+    ajoute(std::string_view(couleur.chiffres, couleur.fin));
     return e;
 }
 

@@ -24,6 +24,7 @@ public:
         std::int32_t couleur;
         bool pointille;
         int epaisseur; // twips; 0 is the thinnest line
+        bool operator==(const Trait&) const = default;
     };
     struct Texte {
         int x, y; // top-left
@@ -31,6 +32,7 @@ public:
         QString police;
         double taille;
         std::int32_t couleur;
+        bool operator==(const Texte&) const = default;
     };
 
     void efface();
@@ -46,6 +48,10 @@ public:
 
     const std::vector<Trait>& traits() const { return traits_; }
     const std::vector<Texte>& textes() const { return textes_; }
+    // The same drawing: what was drawn, whatever the pen is set to now.
+    bool meme_dessin(const Surface& autre) const {
+        return traits_ == autre.traits_ && textes_ == autre.textes_;
+    }
 
 private:
     QString police_ = QStringLiteral("Arial");

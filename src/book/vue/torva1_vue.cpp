@@ -49,8 +49,20 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     fond->setGeometry(rect());
     fond->setPixmap(ui::icc::couverture(size()));
 
-    pageg_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, true); });
-    paged_ = new ui::VueSurface(this, [](QSize s) { return ui::icc::page(s, false); });
+    // Each page's picture carries the boards beneath its rounded corners, so that the page is
+    // opaque: a repaint over a page does not paint the boards first.
+    const auto page_sur_la_couverture = [this, fond](bool gauche) {
+        return [this, fond, gauche](QPainter& g, QSize s) {
+            const QWidget* page = gauche ? pageg_ : paged_;
+            g.drawPixmap(QRectF(QPointF(0, 0), QSizeF(s)), fond->pixmap(),
+                         QRectF(page->geometry()));
+            g.drawPixmap(0, 0, ui::icc::page(s, gauche));
+        };
+    };
+    pageg_ = new ui::VueSurface(this, page_sur_la_couverture(true));
+    paged_ = new ui::VueSurface(this, page_sur_la_couverture(false));
+    for (ui::VueSurface* page : {pageg_, paged_})
+        page->setAttribute(Qt::WA_OpaquePaintEvent);
     ui::place(*pageg_, Torva1::pageg_rect);
     ui::place(*paged_, Torva1::paged_rect);
     pageg_->sur_clic = [this](int x, int y) {

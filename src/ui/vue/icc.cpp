@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <QFontMetrics>
 #include <QHash>
+#include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -42,20 +44,24 @@ QPixmap vierge(QSize t) {
     return p;
 }
 
-// A grain so that the leather does not look like plastic; the same at every drawing. The points
-// are drawn in one call per alpha: points of one colour blend alike in any order, and a pen per
-// point cost most of the start-up.
-void grain(QPainter& g, QSize t, int densite, QColor c) {
+// The grain's points, for each alpha in the order they were drawn: the same at every drawing.
+std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite) {
     QRandomGenerator rng(20040303);
     const int n = t.width() * t.height() / densite;
     std::array<std::vector<QPoint>, 40> par_alpha;
     for (int i = 0; i < n; ++i) {
         const int alpha = int(rng.bounded(10, 40));
-        // In the order of the calls that drew them one by one, so the picture is the same.
         const int y = int(rng.bounded(t.height()));
         const int x = int(rng.bounded(t.width()));
         par_alpha[std::size_t(alpha)].emplace_back(x, y);
     }
+    return par_alpha;
+}
+
+} // namespace
+
+void grain(QPainter& g, QSize t, int densite, QColor c) {
+    const auto par_alpha = points_du_grain(t, densite);
     for (int alpha = 10; alpha < 40; ++alpha) {
         const auto& points = par_alpha[std::size_t(alpha)];
         c.setAlpha(alpha);
@@ -63,6 +69,25 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
         g.drawPoints(points.data(), int(points.size()));
     }
 }
+
+void grain_noir(QImage& image, int densite) {
+    const auto par_alpha = points_du_grain(image.size(), densite);
+    for (int alpha = 10; alpha < 40; ++alpha) {
+        const auto reste = std::uint64_t(255 - alpha);
+        for (const QPoint& p : par_alpha[std::size_t(alpha)]) {
+            auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(p.y())) + p.x();
+            // Each channel times 255 - alpha over 255, rounded as the raster engine does.
+            std::uint64_t t =
+                ((std::uint64_t(*pixel) | (std::uint64_t(*pixel) << 24)) & 0x00ff00ff00ff00ffULL) *
+                reste;
+            t = ((t + ((t >> 8) & 0x00ff00ff00ff00ffULL) + 0x0080008000800080ULL) >> 8) &
+                0x00ff00ff00ff00ffULL;
+            *pixel = (QRgb(alpha) << 24) + (QRgb(t) | QRgb(t >> 24));
+        }
+    }
+}
+
+namespace {
 
 const std::array<const char*, 6> titres = {"Jour",     "Semaine",   "Année",
                                            "Planning", "Recherche", "Sortie"};
@@ -94,46 +119,46 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
 
 QPixmap couverture(QSize t) {
     return garde(QStringLiteral("couverture"), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
+        QImage p(t.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+        p.fill(Qt::transparent);
         QRadialGradient rg(t.width() / 2.0, t.height() / 2.0,
                            std::max(t.width(), t.height()) * 0.7);
         rg.setColorAt(0, cuir_clair);
         rg.setColorAt(1, cuir_fonce);
-        g.fillRect(p.rect(), rg);
-        grain(g, t, 6, Qt::black);
+        QPainter(&p).fillRect(p.rect(), rg);
+        grain_noir(p, 6);
         // A gilt fillet round the boards.
+        QPainter g(&p);
         const int m = std::max(2, t.width() / 160);
         g.setPen(QPen(or_vieux, std::max(1, m / 3)));
         g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
-        return p;
+        g.end();
+        return QPixmap::fromImage(std::move(p));
     });
 }
 
 QPixmap page(QSize t, bool gauche) {
-    return garde(QStringLiteral("page%1").arg(gauche), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        g.setRenderHint(QPainter::Antialiasing);
-        QPainterPath bord;
-        const qreal r = t.width() / 60.0;
-        bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
-        // The paper darkens towards the gutter, where the page curves into the binding.
-        QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
-        lg.setColorAt(0, papier_ombre);
-        lg.setColorAt(0.08, papier);
-        lg.setColorAt(0.97, papier);
-        lg.setColorAt(1, papier_ombre);
-        g.fillPath(bord, lg);
-        grain(g, t, 40, QColor(0x80, 0x60, 0x30));
-        // The edges of the leaves underneath, on the fore-edge side.
-        g.setPen(QPen(papier_ombre.darker(110), 1));
-        for (int i = 1; i <= 3; ++i) {
-            const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
-            g.drawLine(x, int(r), x, t.height() - int(r));
-        }
-        return p;
-    });
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    QPainterPath bord;
+    const qreal r = t.width() / 60.0;
+    bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
+    // The paper darkens towards the gutter, where the page curves into the binding.
+    QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
+    lg.setColorAt(0, papier_ombre);
+    lg.setColorAt(0.08, papier);
+    lg.setColorAt(0.97, papier);
+    lg.setColorAt(1, papier_ombre);
+    g.fillPath(bord, lg);
+    grain(g, t, 40, QColor(0x80, 0x60, 0x30));
+    // The edges of the leaves underneath, on the fore-edge side.
+    g.setPen(QPen(papier_ombre.darker(110), 1));
+    for (int i = 1; i <= 3; ++i) {
+        const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
+        g.drawLine(x, int(r), x, t.height() - int(r));
+    }
+    return p;
 }
 
 QPixmap reliure(QSize t) {

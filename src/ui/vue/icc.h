@@ -2,16 +2,25 @@
 // The picture store: the program's own pictures, drawn in code at the size asked, by their
 // roles in the windows.
 
+#include <QColor>
 #include <QPixmap>
 #include <QSize>
 
+class QImage;
+class QPainter;
+
 namespace agenda::ui::icc {
 
-QPixmap couverture(QSize taille);        // the leather under the open book
-QPixmap page(QSize taille, bool gauche); // a page, its gutter towards the spine
-QPixmap reliure(QSize taille);           // Picture1, the spine between the pages
-QPixmap p11g(int i, QSize taille);       // a tab title on the left edge (0 to 5)
-QPixmap p11d(int i, QSize taille);       // the same on the right edge
+QPixmap couverture(QSize taille); // the leather under the open book
+// A page, its gutter towards the spine; drawn anew at each call, as the page surfaces keep what
+// they show.
+QPixmap page(QSize taille, bool gauche);
+// A page, its gutter towards the spine; drawn anew at each call, for the page surfaces keep
+// what they show.
+QPixmap page(QSize taille, bool gauche);
+QPixmap reliure(QSize taille);     // Picture1, the spine between the pages
+QPixmap p11g(int i, QSize taille); // a tab title on the left edge (0 to 5)
+QPixmap p11d(int i, QSize taille); // the same on the right edge
 QPixmap fleche(bool vers_la_gauche, QSize taille);
 QPixmap piece_cadre(int coin, int i, QSize taille); // frame piece i (0-7) of a set
 QPixmap bouton(bool oui, QSize taille);             // the two picture buttons of the small windows
@@ -21,5 +30,13 @@ QPixmap bouton(bool oui, QSize taille);             // the two picture buttons o
 QPixmap horloge(int n, QSize taille);
 // Colour swatches; the colour is read from the pixel under the pointer.
 QPixmap palette(QSize taille);
+
+// A grain so that leather and paper do not look like plastic, the same at every drawing: points
+// of the colour at alphas from 10 to 39, one per `densite` pixels.
+void grain(QPainter& g, QSize taille, int densite, QColor c);
+// The same grain in black, blended straight into the pixels of an ARGB32 premultiplied image,
+// as the painter's source-over blends it: for the cover's 126,000 points, where the painter's
+// path per point was a third of the start-up.
+void grain_noir(QImage& image, int densite);
 
 } // namespace agenda::ui::icc

@@ -27,19 +27,34 @@ void VueSurface::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 void VueSurface::montre(const Surface* surface) {
-    surface_ = surface;
+    const bool meme = surface && surface_ ? surface->meme_dessin(*surface_) : !surface && !surface_;
+    if (meme) return;
+    surface_.reset();
+    if (surface) surface_ = *surface;
+    rendu_ = QPixmap();
     update();
 }
 
-void VueSurface::paintEvent(QPaintEvent*) {
-    QPainter g(this);
+void VueSurface::paintEvent(QPaintEvent* e) {
+    const QSize voulu = size() * devicePixelRatioF();
+    if (rendu_.size() != voulu) {
+        rendu_ = QPixmap(voulu);
+        rendu_.setDevicePixelRatio(devicePixelRatioF());
+        rendu_.fill(Qt::transparent);
+        QPainter g(&rendu_);
+        dessine(g);
+    }
+    QPainter(this).drawPixmap(e->rect(), rendu_,
+                              QRectF(QPointF(e->rect().topLeft()) * devicePixelRatioF(),
+                                     QSizeF(e->rect().size()) * devicePixelRatioF()));
+}
+
+void VueSurface::dessine(QPainter& g) const {
     if (fond_) {
-        const QSize voulu = size() * devicePixelRatioF();
-        if (fond_cache_.size() != voulu) {
-            fond_cache_ = fond_(voulu);
-            fond_cache_.setDevicePixelRatio(devicePixelRatioF());
-        }
-        g.drawPixmap(0, 0, fond_cache_);
+        g.save();
+        g.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+        fond_(g, rendu_.size());
+        g.restore();
     }
     if (!surface_) return;
     g.setRenderHint(QPainter::Antialiasing);

@@ -5,15 +5,21 @@
 #include "ui/surface.h"
 
 #include <functional>
+#include <optional>
 #include <QPixmap>
 #include <QWidget>
 
+class QPainter;
+
 namespace agenda::ui {
 
-// A picture surface: a background picture under what a Surface recorded, in twips.
+// A picture surface: a background picture under what a Surface recorded, in twips. The picture
+// with its drawing is made once and shown again until the drawing changes: a day step that
+// keeps the same hours repaints nothing under its labels.
 class VueSurface : public QWidget {
 public:
-    using Fond = std::function<QPixmap(QSize)>;
+    // Draws the background at a size in device pixels.
+    using Fond = std::function<void(QPainter&, QSize)>;
     VueSurface(QWidget* parent, Fond fond);
     void montre(const Surface* surface);
     // A click of any button, in twips of the surface.
@@ -25,9 +31,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
+    void dessine(QPainter& g) const;
     Fond fond_;
-    QPixmap fond_cache_;
-    const Surface* surface_ = nullptr;
+    std::optional<Surface> surface_; // what is shown, kept as it was when shown
+    QPixmap rendu_;                  // the background with the drawing on it
 };
 
 // Left and top that centre a window on the screen.

@@ -1,0 +1,48 @@
+#include "ouverture.h"
+
+#include "editor/vue/detarv_vue.h"
+#include "input/vue/date_97_vue.h"
+#include "input/vue/mini_97_vue.h"
+#include "ui/erreur.h"
+#include "ui/systeme.h"
+#include "ui/vue/echelle.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QScreen>
+
+namespace agenda {
+
+namespace {
+
+// The one registration of each modal window: its logic and its widgets.
+void enregistre_fenetres() {
+    ui::enregistre_vue<Mini97, Mini97Vue>();
+    ui::enregistre_vue<Date97, Date97Vue>();
+    ui::enregistre_vue<Detarv, DetarvVue>();
+}
+
+} // namespace
+
+std::unique_ptr<Programme> ouvre_programme() {
+    QApplication::setApplicationName(QStringLiteral("Agenda"));
+    ui::echelle_pour_ecran(QGuiApplication::primaryScreen());
+    // Where a screen can show it: on the offscreen platform nobody could close the window.
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        ui::fixe_message_fatal([](const QString& message) {
+            QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
+        });
+    enregistre_fenetres();
+
+    auto p = std::make_unique<Programme>();
+    protege([&] { p->livre.charge(); });
+    // Across the middle of the screen, at the top.
+    if (const QScreen* ecran = QGuiApplication::primaryScreen()) {
+        const QRect libre = ecran->availableGeometry();
+        p->vue.move(libre.left() + libre.width() / 2 - p->vue.width() / 2, libre.top());
+    }
+    p->vue.show();
+    return p;
+}
+
+} // namespace agenda

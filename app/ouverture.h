@@ -1,0 +1,20 @@
+#pragma once
+// The program's opening, shared by the executable and the start-up benchmark: the windows
+// registered, the book loaded, placed and shown.
+
+#include "book/torva1.h"
+#include "book/vue/torva1_vue.h"
+
+#include <memory>
+
+namespace agenda {
+
+struct Programme {
+    Torva1 livre;
+    Torva1Vue vue{livre};
+};
+
+// Needs the QApplication made; the book is shown when it returns.
+std::unique_ptr<Programme> ouvre_programme();
+
+} // namespace agenda

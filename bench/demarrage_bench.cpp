@@ -5,6 +5,7 @@
 // when its window was first painted on its standard output and ends at once. Run it in an X
 // server (xvfb-run).
 
+#include "banc.h"
 #include "generateur.h"
 #include "ouverture.h"
 
@@ -12,7 +13,6 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
-#include <map>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -118,20 +118,6 @@ void BM_demarrage_nu(benchmark::State& state) {
 BENCHMARK(BM_demarrage_livre)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_demarrage_nu)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
-// Keeps each benchmark's median time and memory, for the ratios.
-class Rapport : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& r : runs)
-            if (r.run_type == Run::RT_Aggregate && r.aggregate_name == "median") {
-                temps[r.run_name.function_name] = r.GetAdjustedRealTime();
-                memoire[r.run_name.function_name] = r.counters.at("Mio");
-            }
-        ConsoleReporter::ReportRuns(runs);
-    }
-    std::map<std::string, double> temps, memoire;
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -144,22 +130,15 @@ int main(int argc, char** argv) {
         QCoreApplication app(argc, argv); // for the generator's texts
         agenda::bench::prepare_dossier_livre(records);
     }
-    std::vector<char*> args(argv, argv + argc);
-    char repetitions[] = "--benchmark_repetitions=6";
-    char melange[] = "--benchmark_enable_random_interleaving=true";
-    char agreges[] = "--benchmark_report_aggregates_only=true";
-    args.insert(args.begin() + 1, {repetitions, melange, agreges});
-    int n = int(args.size());
-    benchmark::Initialize(&n, args.data());
-    Rapport rapport;
-    benchmark::RunSpecifiedBenchmarks(&rapport);
-    const double livre = rapport.temps["BM_demarrage_livre"], nu = rapport.temps["BM_demarrage_nu"];
+    agenda::bench::Medianes rapport;
+    agenda::bench::lance_bancs(argc, argv, 6, rapport);
+    const std::string livre_ = "BM_demarrage_livre", nu_ = "BM_demarrage_nu";
+    const double livre = rapport.temps(livre_), nu = rapport.temps(nu_);
     if (livre > 0 && nu > 0)
         std::printf("démarrage jusqu'au livre peint : %.2f × la fenêtre nue (médianes)\n"
                     "mémoire au plus haut : %.0f Mio contre %.0f Mio, %.2f ×\n",
-                    livre / nu, rapport.memoire["BM_demarrage_livre"],
-                    rapport.memoire["BM_demarrage_nu"],
-                    rapport.memoire["BM_demarrage_livre"] / rapport.memoire["BM_demarrage_nu"]);
+                    livre / nu, rapport.compteur(livre_, "Mio"), rapport.compteur(nu_, "Mio"),
+                    rapport.compteur(livre_, "Mio") / rapport.compteur(nu_, "Mio"));
     benchmark::Shutdown();
     return 0;
 }

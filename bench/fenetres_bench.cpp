@@ -6,6 +6,7 @@
 // in an X server (xvfb-run): offscreen, a bare window costs nothing and the ratios mean little.
 // The whole program's start is measured apart (demarrage_bench.cpp), each run a new process.
 
+#include "banc.h"
 #include "book/torva1.h"
 #include "book/vue/torva1_vue.h"
 #include "data/dossier.h"
@@ -21,7 +22,6 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <fcntl.h>
-#include <map>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -180,18 +180,6 @@ void BM_dialogue_nu(benchmark::State& state) {
 }
 BENCHMARK(BM_dialogue_nu)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-// Keeps each benchmark's mean time, for the ratios.
-class Rapport : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& r : runs)
-            if (r.run_type == Run::RT_Aggregate && r.aggregate_name == "median")
-                temps[r.run_name.function_name + r.run_name.args] = r.GetAdjustedRealTime();
-        ConsoleReporter::ReportRuns(runs);
-    }
-    std::map<std::string, double> temps;
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -203,19 +191,12 @@ int main(int argc, char** argv) {
     for (const int records : tailles)
         bench::genere_rendez_vous(collab_de(records), records, 12);
     ui::enregistre_vue<Detarv, DetarvVue>();
-    std::vector<char*> args(argv, argv + argc);
-    char repetitions[] = "--benchmark_repetitions=5";
-    char melange[] = "--benchmark_enable_random_interleaving=true";
-    char agreges[] = "--benchmark_report_aggregates_only=true";
-    args.insert(args.begin() + 1, {repetitions, melange, agreges});
-    int n = int(args.size());
-    benchmark::Initialize(&n, args.data());
-    Rapport rapport;
-    benchmark::RunSpecifiedBenchmarks(&rapport);
+    bench::Medianes rapport;
+    bench::lance_bancs(argc, argv, 5, rapport);
     const auto ratio = [&](const std::string& a, const std::string& b, const std::string& quoi) {
-        if (rapport.temps[a] > 0 && rapport.temps[b] > 0)
+        if (rapport.temps(a) > 0 && rapport.temps(b) > 0)
             std::printf("%s : %.2f × la fenêtre nue (médianes)\n", quoi.c_str(),
-                        rapport.temps[a] / rapport.temps[b]);
+                        rapport.temps(a) / rapport.temps(b));
     };
     for (const int records : tailles)
         ratio("BM_pas_de_jour" + std::to_string(records), "BM_pas_nu" + std::to_string(records),

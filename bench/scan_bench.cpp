@@ -1,6 +1,7 @@
 // The day scan against a plain sequential read of the same bytes, in the same run. The scan
 // has no index by design, so it should cost what reading the file costs.
 
+#include "banc.h"
 #include "data/dossier.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
@@ -15,7 +16,6 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <fcntl.h>
-#include <map>
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -77,18 +77,6 @@ void BM_charge_journee(benchmark::State& state) {
 }
 BENCHMARK(BM_charge_journee)->Apply(tailles);
 
-// Keeps each benchmark's time per iteration, for the ratio.
-class Rapport : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& r : runs)
-            if (r.run_type == Run::RT_Aggregate && r.aggregate_name == "median")
-                temps[r.run_name.function_name][r.run_name.args] = r.GetAdjustedRealTime();
-        ConsoleReporter::ReportRuns(runs);
-    }
-    std::map<std::string, std::map<std::string, double>> temps;
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -97,20 +85,13 @@ int main(int argc, char** argv) {
     QDir::setCurrent(dossier.path());
     for (std::size_t i = 0; i < cas.size(); ++i)
         bench::genere_rendez_vous(std::int16_t(i + 1), cas[i].records, cas[i].du_jour);
-    std::vector<char*> args(argv, argv + argc);
-    char repetitions[] = "--benchmark_repetitions=5";
-    char melange[] = "--benchmark_enable_random_interleaving=true";
-    char agreges[] = "--benchmark_report_aggregates_only=true";
-    args.insert(args.begin() + 1, {repetitions, melange, agreges});
-    int n = int(args.size());
-    benchmark::Initialize(&n, args.data());
-    Rapport rapport;
-    benchmark::RunSpecifiedBenchmarks(&rapport);
+    bench::Medianes rapport;
+    bench::lance_bancs(argc, argv, 5, rapport);
     ferme_tous_les_canaux();
     for (const auto& [records, du_jour] : cas) {
         const std::string arg = std::to_string(records) + "/" + std::to_string(du_jour);
-        const double scan = rapport.temps["BM_charge_journee"][arg];
-        const double lecture = rapport.temps["BM_lecture_sequentielle"][arg];
+        const double scan = rapport.temps("BM_charge_journee" + arg);
+        const double lecture = rapport.temps("BM_lecture_sequentielle" + arg);
         if (scan > 0 && lecture > 0)
             std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : %.2f\n",
                         records, du_jour, scan / lecture);

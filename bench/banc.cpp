@@ -1,0 +1,36 @@
+#include "banc.h"
+
+#include <vector>
+
+namespace agenda::bench {
+
+void Medianes::ReportRuns(const std::vector<Run>& runs) {
+    for (const Run& r : runs) {
+        if (r.run_type != Run::RT_Aggregate || r.aggregate_name != "median") continue;
+        const std::string nom = r.run_name.function_name + r.run_name.args;
+        temps_[nom] = r.GetAdjustedRealTime();
+        for (const auto& [quoi, c] : r.counters)
+            compteurs_[nom + "|" + quoi] = c;
+    }
+    ConsoleReporter::ReportRuns(runs);
+}
+
+double Medianes::valeur(const std::map<std::string, double>& m, const std::string& cle) {
+    const auto it = m.find(cle);
+    return it == m.end() ? 0 : it->second;
+}
+
+void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {
+    std::vector<std::string> options = {"--benchmark_repetitions=" + std::to_string(repetitions),
+                                        "--benchmark_enable_random_interleaving=true",
+                                        "--benchmark_report_aggregates_only=true"};
+    std::vector<char*> args(argv, argv + argc);
+    // Before the command line's own, which win.
+    for (std::size_t i = 0; i < options.size(); ++i)
+        args.insert(args.begin() + std::ptrdiff_t(1 + i), options[i].data());
+    int n = int(args.size());
+    benchmark::Initialize(&n, args.data());
+    benchmark::RunSpecifiedBenchmarks(&medianes);
+}
+
+} // namespace agenda::bench

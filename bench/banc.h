@@ -1,0 +1,29 @@
+#pragma once
+// What every benchmark here shares: runs repeated and interleaved at random (one wall-clock run
+// on a busy machine swings by a third), and the medians kept for the ratios printed at the end.
+
+#include <benchmark/benchmark.h>
+#include <map>
+#include <string>
+
+namespace agenda::bench {
+
+class Medianes : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override;
+    // By name and arguments without the slash: "BM_pas_de_jour32767". 0 if it did not run.
+    double temps(const std::string& nom) const { return valeur(temps_, nom); }
+    double compteur(const std::string& nom, const std::string& quoi) const {
+        return valeur(compteurs_, nom + "|" + quoi);
+    }
+
+private:
+    static double valeur(const std::map<std::string, double>& m, const std::string& cle);
+    std::map<std::string, double> temps_, compteurs_;
+};
+
+// Runs the benchmarks chosen on the command line, `repetitions` times each unless it says
+// otherwise, printing the medians only.
+void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes);
+
+} // namespace agenda::bench

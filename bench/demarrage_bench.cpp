@@ -8,6 +8,8 @@
 #include "banc.h"
 #include "generateur.h"
 #include "ouverture.h"
+#include "ui/geometrie.h"
+#include "ui/vue/echelle.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
@@ -59,7 +61,9 @@ int enfant(int argc, char** argv, const std::string& quoi) {
         return QApplication::exec();
     }
     QWidget w;
-    w.resize(agenda::Torva1Vue(*std::make_unique<agenda::Torva1>()).size());
+    // The book's size on this screen, as the program scales it; nothing of the book is made.
+    agenda::ui::echelle_pour_ecran(QGuiApplication::primaryScreen());
+    w.resize(agenda::ui::px(agenda::ui::largeur_livre), agenda::ui::px(agenda::ui::hauteur_livre));
     QLabel l(QStringLiteral("Agenda"), &w);
     w.installEventFilter(&peinture);
     w.show();

@@ -14,6 +14,7 @@
 #include "data/fichier_records.h"
 #include "editor/vue/detarv_vue.h"
 #include "generateur.h"
+#include "ui/geometrie.h"
 #include "ui/modale.h"
 #include "ui/vue/echelle.h"
 
@@ -69,7 +70,7 @@ struct LivreOuvert {
 };
 
 QSize taille_du_livre() {
-    return Torva1Vue(*std::make_unique<Torva1>()).size();
+    return {ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre)};
 }
 
 void BM_pas_de_jour(benchmark::State& state) {

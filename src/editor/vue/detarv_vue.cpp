@@ -122,7 +122,6 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     picture2_ = new ui::VueSurface(
         this, [this](QPainter& g, QSize s) { g.drawPixmap(0, 0, ui::icc::horloge(l_.face, s)); });
     ui::place(*picture2_, Detarv::Picture2_rect);
-    picture2_->montre(&aiguilles_);
     // The cells are flat buttons over the face's numbers and dots: invisible until pressed, and
     // without a style sheet, whose polish of 24 buttons cost a fifth of the opening.
     for (int i = 0; i < 12; ++i) {

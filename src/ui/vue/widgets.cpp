@@ -27,15 +27,13 @@ void VueSurface::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 void VueSurface::montre(const Surface* surface) {
-    const bool meme = surface && surface_ ? surface->meme_dessin(*surface_) : !surface && !surface_;
-    if (meme) return;
-    surface_.reset();
-    if (surface) surface_ = *surface;
+    if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
+    surface_ = surface ? std::optional(*surface) : std::nullopt;
     rendu_ = QPixmap();
     update();
 }
 
-void VueSurface::paintEvent(QPaintEvent* e) {
+void VueSurface::paintEvent(QPaintEvent*) {
     const QSize voulu = size() * devicePixelRatioF();
     if (rendu_.size() != voulu) {
         rendu_ = QPixmap(voulu);
@@ -44,9 +42,7 @@ void VueSurface::paintEvent(QPaintEvent* e) {
         QPainter g(&rendu_);
         dessine(g);
     }
-    QPainter(this).drawPixmap(e->rect(), rendu_,
-                              QRectF(QPointF(e->rect().topLeft()) * devicePixelRatioF(),
-                                     QSizeF(e->rect().size()) * devicePixelRatioF()));
+    QPainter(this).drawPixmap(0, 0, rendu_); // clipped to what needs repainting
 }
 
 void VueSurface::dessine(QPainter& g) const {

@@ -1,5 +1,7 @@
 #include "ouverture.h"
 
+#include "clients/vue/cclifa_vue.h"
+#include "clients/vue/lit_cli_vue.h"
 #include "editor/vue/detarv_vue.h"
 #include "input/vue/date_97_vue.h"
 #include "input/vue/mini_97_vue.h"
@@ -20,6 +22,8 @@ void enregistre_fenetres() {
     ui::enregistre_vue<Mini97, Mini97Vue>();
     ui::enregistre_vue<Date97, Date97Vue>();
     ui::enregistre_vue<Detarv, DetarvVue>();
+    ui::enregistre_vue<LitCli, LitCliVue>();
+    ui::enregistre_vue<Cclifa, CclifaVue>();
 }
 
 } // namespace

@@ -4,13 +4,16 @@
 // a large allocation. One target per CIBLE, built from this one file.
 
 #include "book/torva1.h"
+#include "clients/cclifa.h"
 #include "clients/client.h"
+#include "clients/lit_cli.h"
 #include "data/dossier.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
 #include "data/param.h"
 #include "data/rendez_vous.h"
+#include "data/texte.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
 #include "ui/dates.h"
@@ -108,6 +111,15 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     cree_client();
     d.Text1 = QStringLiteral("x");
     d.sauve_rv();
+    // The list over whatever the file holds, and the card of its last client.
+    LitCli liste;
+    liste.Form_Load();
+    liste.Text1_Change(QStringLiteral("AB"));
+    liste.zlis_Click(1);
+    etat.num_client_courant = en_i16(client_alloue);
+    Cclifa fiche;
+    fiche.Form_Load();
+    fiche.picture4_Click();
 #elif CIBLE == 6
     ecrit_dossier(octets, n,
                   {"lien_agenda.txt", "WTORV_IA.WDO", "W_intlog.wdo", "tf_r0000.wdo",

@@ -44,9 +44,11 @@ for c in "${cibles[@]}"; do
     grep -E "^Done" "$journal" | sed "s/^/fuzz_$c : /"
 done
 
-# Ratios printed, nothing asserted: the day scan against a plain read; in an X server, the
-# windows against bare Qt windows, and the whole program's start and memory against a bare one.
+# Ratios printed, nothing asserted: the day scan and the client list against a plain read; in
+# an X server, the windows against bare Qt windows, and the whole program's start and memory
+# against a bare one.
 "$racine/build-test/bench/agenda_bench" --benchmark_min_time=0.2 2>&1 | grep -E "median|séq"
+"$racine/build-test/bench/agenda_bench_clients" 2>&1 | grep -E "median|séq"
 for banc in agenda_bench_fenetres agenda_bench_demarrage; do
     # On the X server, not offscreen: there a bare window costs nothing and the ratios mean little.
     env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24" \

@@ -67,4 +67,13 @@ void ecrit_client(std::int32_t n) {
     ecrit_record(fichier(), std::int64_t(n) + 1, rec_cli);
 }
 
+void parcourt_clients(const std::function<void(std::int32_t, const RecCli&)>& visite) {
+    const auto entete = lit_record<RecCli>(fichier(), 1);
+    parcourt<RecCli>(fichier(), entete.lit(RecCli::dernier_client),
+                     [&](std::int32_t n, std::span<const std::uint8_t> octets) {
+                         visite(n, record_de<RecCli>(octets));
+                         return true;
+                     });
+}
+
 } // namespace agenda

@@ -1,6 +1,8 @@
 #include "editor/detarv.h"
 
+#include "clients/cclifa.h"
 #include "clients/client.h"
+#include "clients/lit_cli.h"
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
@@ -263,6 +265,34 @@ void Detarv::affiche_client() {
     Text2 = chiffres(rec_cli.lit(RecCli::telephone));
     Image2_visible = true;
     if (sans_blancs(Text1).isEmpty()) Text1 = nom_client;
+}
+
+void Detarv::Image1_Click() {
+    LitCli liste;
+    ui::montre_modal(liste);
+    if (etat.texte_retour == QLatin1String("#CRE#")) {
+        // The record exists from here on, whatever the operator does on the card.
+        etat.num_client_courant = 0;
+        cree_client();
+        etat.num_client_courant = en_i16(client_alloue);
+        Cclifa fiche;
+        ui::montre_modal(fiche);
+        etat.texte_retour =
+            QString(80, QLatin1Char(' ')) + QLatin1Char(':') + QString::number(client_alloue);
+    }
+    // Left without a choice: the appointment keeps its client.
+    const double numero = val(mid1(etat.texte_retour, 82, 15));
+    if (numero < 1) return;
+    Label14 = motif_zeros(numero, 1);
+    affiche_client();
+}
+
+void Detarv::Image2_Click() {
+    if (val(Label14) < 1) return;
+    etat.num_client_courant = en_i16(val(Label14));
+    Cclifa fiche;
+    ui::montre_modal(fiche);
+    affiche_client();
 }
 
 void Detarv::Picture1_MouseDown(std::int32_t couleur) {

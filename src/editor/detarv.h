@@ -37,6 +37,10 @@ public:
 
     // The client panel and the colour.
     void affiche_client();
+    // The client list; a client it asks for is created here, and shown on its card.
+    void Image1_Click();
+    // The card of the client attached.
+    void Image2_Click();
     void Picture1_MouseDown(std::int32_t couleur_du_pixel);
 
     // The clock.
@@ -72,8 +76,10 @@ public:
         Text1_rect{400, 1200, 6700, 2300};
     static constexpr ui::RectTwips Picture1_rect{400, 3600, 4900, 450},
         Check1_rect{5500, 3600, 1600, 450};
-    static constexpr ui::RectTwips Label15_rect{400, 4200, 6700, 1250},
+    static constexpr ui::RectTwips Label15_rect{400, 4200, 5000, 1250},
         Text2_rect{2000, 5100, 2300, 330};
+    static constexpr ui::RectTwips Image1_rect{5500, 4200, 1600, 560},
+        Image2_rect{5500, 4850, 1600, 560};
     static constexpr ui::RectTwips g1_rect{400, 5700, 4500, 3700}, g2_rect{5100, 5700, 2000, 1700};
     static constexpr ui::RectTwips Label6_rect{5100, 7550, 2000, 300},
         Label7_rect{5100, 7900, 1100, 420}, Label9_rect{6300, 7900, 800, 420};

@@ -1,6 +1,8 @@
 // The editor's flows from the book: a click on the page or on a label opens it, scripted through
 // the modal seam as an operator would work it, and the file is checked byte by byte.
 
+#include "clients/cclifa.h"
+#include "clients/lit_cli.h"
 #include "data/dossier.h"
 #include "data/param.h"
 #include "editor/detarv.h"
@@ -40,6 +42,8 @@ protected:
     }
     void TearDown() override {
         ui::scenario<Detarv>({});
+        ui::scenario<LitCli>({});
+        ui::scenario<Cclifa>({});
         ui::scenario<Mini97>({});
         ui::scenario<Date97>({});
         Livre::TearDown();
@@ -173,6 +177,74 @@ TEST_F(Editeur, LeClientDuRendezVous) {
         d.bt_valid_Click();
     });
     livre->lrv_Click(2);
+}
+
+TEST_F(Editeur, UnClientChoisiCreeOuCorrigeDepuisLEditeur) {
+    const auto client_du_rv = [&] { return contenu(rv).right(512).mid(438, 4); };
+    const auto numero = [](std::int32_t n) { return Gabarit(4, 0).i32(0, n).octets(); };
+    // Two letters and a row.
+    ui::scenario<LitCli>([](LitCli& l) {
+        l.Text1_Change(QStringLiteral("DU"));
+        l.zlis_Click(1);
+    });
+    editeur([](Detarv& d) {
+        d.Image1_Click();
+        EXPECT_EQ(d.Label14 + d.Text1 + d.Text2, QStringLiteral("2DURAND Marie0102030405"));
+        EXPECT_TRUE(d.Image2_visible);
+        d.bt_valid_Click();
+    });
+    clic_14h();
+    EXPECT_EQ(client_du_rv(), numero(2));
+    const qint64 longueur = contenu(rv).size();
+
+    // Left without a choice, by the button or by Escape: the client stays.
+    for (const auto sortie : {&LitCli::Image1_Click, &LitCli::sortie}) {
+        ui::scenario<LitCli>([sortie](LitCli& l) { (l.*sortie)(); });
+        editeur([](Detarv& d) {
+            d.Image1_Click();
+            EXPECT_EQ(d.Label14, QStringLiteral("2"));
+            d.bt_valid_Click();
+        });
+        livre->lrvd_Click(1);
+        EXPECT_EQ(client_du_rv(), numero(2));
+    }
+
+    // A new client: created on the yes, named on its card, attached at once.
+    repond(2);
+    ui::scenario<LitCli>([](LitCli& l) { l.Picture3_Click(); });
+    ui::scenario<Cclifa>([](Cclifa& f) {
+        EXPECT_EQ(etat.num_client_courant, 3);
+        EXPECT_EQ(f.Combo11 + f.Label3, QStringLiteral("Madame1"));
+        f.Text_Change(Cclifa::nom, QStringLiteral("ZOLA Emile"));
+        f.sortie();
+    });
+    editeur([](Detarv& d) {
+        d.Image1_Click();
+        EXPECT_EQ(d.Label14 + d.Text1, QStringLiteral("3DURAND Marie")); // the text stays
+        EXPECT_TRUE(d.Label15.startsWith(QStringLiteral("ZOLA Emile\r\n")));
+        d.bt_valid_Click();
+    });
+    livre->lrvd_Click(1);
+    EXPECT_EQ(client_du_rv(), numero(3));
+    const QByteArray clients = contenu(QStringLiteral("W_CAI038.WDO"));
+    ASSERT_EQ(clients.size(), 4 * 1024);
+    EXPECT_EQ(clients.mid(254, 4), numero(3));
+    EXPECT_EQ(clients.mid(3 * 1024, 55), QByteArray("0003           ZOLA Emile").leftJustified(55));
+
+    EXPECT_EQ(contenu(rv).size(), longueur); // the same appointment all along
+
+    // The card of the attached client, corrected: the panel shows it at once.
+    ui::scenario<Cclifa>([](Cclifa& f) {
+        EXPECT_EQ(f.Text[Cclifa::nom], QStringLiteral("ZOLA Emile"));
+        f.Text_Change(Cclifa::telephone, QStringLiteral("06.11.22.33.44"));
+        f.picture4_Click();
+    });
+    editeur([](Detarv& d) {
+        d.Image2_Click();
+        EXPECT_EQ(d.Text2, QStringLiteral("0611223344"));
+        d.bt_valid_Click();
+    });
+    livre->lrvd_Click(1);
 }
 
 TEST_F(Editeur, ChangerDeDate) {

@@ -1,5 +1,6 @@
 #include "support/support.h"
 
+#include "clients/lit_cli.h"
 #include "data/fichier_records.h"
 #include "ui/systeme.h"
 
@@ -52,6 +53,7 @@ void DossierDonnees::SetUp() {
     ASSERT_TRUE(QDir::setCurrent(dossier_.path()));
     ferme_tous_les_canaux();
     etat = Etat{};
+    page_liste = 0;
     ui::fixe_horloge([] { return QDateTime(QDate(2004, 3, 3), QTime(10, 0)); });
     ui::fixe_fin([](int code) { throw FinDemandee{code}; });
     ui::fixe_lanceur([](const QString&) { return true; });

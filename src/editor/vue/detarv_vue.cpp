@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QToolButton>
 
 namespace agenda {
 
@@ -83,6 +84,27 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     ui::place(*text2_, Detarv::Text2_rect);
     text2_->setFont(police(10));
     connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
+
+    // The client: the list, and the card of the one attached.
+    const auto image = [&](const RectTwips& r, const QPixmap& p, const QString& aide,
+                           std::function<void()> f) {
+        auto* b = new QToolButton(this);
+        ui::place(*b, r);
+        b->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        b->setIcon(p);
+        b->setIconSize(QSize(b->height() * 4 / 5, b->height() * 4 / 5));
+        b->setText(aide);
+        b->setFont(police(8, true));
+        connect(b, &QToolButton::clicked, this, [this, f] { appelle(f); });
+        return b;
+    };
+    const QSize icone(ui::px(500), ui::px(500));
+    image(Detarv::Image1_rect, ui::icc::visage(0, icone), QStringLiteral("Client..."), [this] {
+        l_.Image1_Click();
+    })->setToolTip(QStringLiteral("Sélectionner un client"));
+    image2_ = image(Detarv::Image2_rect, ui::icc::visage(2, icone), QStringLiteral("Fiche"),
+                    [this] { l_.Image2_Click(); });
+    image2_->setToolTip(QStringLiteral("Fiche du client"));
 
     g1_ = grille(Detarv::g1_rect, int(l_.g1.size()), 2);
     g1_->setColumnWidth(0, ui::px(3000));
@@ -242,6 +264,7 @@ void DetarvVue::montre() {
     label15_->setVisible(!l_.Label15.isEmpty());
     text2_->setText(l_.Text2);
     text2_->setVisible(!l_.Label15.isEmpty() || !l_.Text2.isEmpty());
+    image2_->setVisible(l_.Image2_visible);
     label7_->setText(l_.Label7);
     label9_->setText(l_.Label9);
     for (std::size_t i = 0; i < combos_.size(); ++i) {

@@ -15,6 +15,7 @@ class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
+class QToolButton;
 
 namespace agenda {
 
@@ -46,6 +47,7 @@ private:
     QTableWidget *g1_, *g2_;
     ui::VueSurface* picture2_;
     QPushButton *picture3_, *picture4_;
+    QToolButton* image2_;
     std::vector<QComboBox*> combos_;
     std::vector<QString Detarv::*> champs_;
 };

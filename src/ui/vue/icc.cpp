@@ -44,6 +44,19 @@ QPixmap vierge(QSize t) {
     return p;
 }
 
+// A picture kept for its role and size, drawn anti-aliased on a transparent ground.
+template <class Dessin>
+QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
+    return garde(role, t, [&] {
+        QPixmap p = vierge(t);
+        QPainter g(&p);
+        g.setRenderHint(QPainter::Antialiasing);
+        dessine(g);
+        g.end();
+        return p;
+    });
+}
+
 // The grain's points, for each alpha in the order they were drawn: the same at every drawing.
 std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite) {
     QRandomGenerator rng(20040303);
@@ -191,10 +204,7 @@ QPixmap p11d(int i, QSize t) {
 }
 
 QPixmap fleche(bool vers_la_gauche, QSize t) {
-    return garde(QStringLiteral("fleche%1").arg(vers_la_gauche), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        g.setRenderHint(QPainter::Antialiasing);
+    return dessin(QStringLiteral("fleche%1").arg(vers_la_gauche), t, [&](QPainter& g) {
         const qreal w = t.width(), h = t.height();
         QPainterPath tri;
         if (vers_la_gauche) {
@@ -210,21 +220,17 @@ QPixmap fleche(bool vers_la_gauche, QSize t) {
         g.fillPath(tri, cuir_clair);
         g.setPen(QPen(or_vieux, std::max(1.0, w / 24)));
         g.drawPath(tri);
-        return p;
     });
 }
 
 QPixmap piece_cadre(int coin, int i, QSize t) {
-    return garde(QStringLiteral("cadre%1-%2").arg(coin).arg(i), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        g.setRenderHint(QPainter::Antialiasing);
+    return dessin(QStringLiteral("cadre%1-%2").arg(coin).arg(i), t, [&](QPainter& g) {
         const bool vertical = i == 4 || i == 6;
         QLinearGradient lg(0, 0, vertical ? t.width() : 0, vertical ? 0 : t.height());
         lg.setColorAt(0, cuir_fonce);
         lg.setColorAt(0.5, cuir_clair);
         lg.setColorAt(1, cuir_fonce);
-        g.fillRect(p.rect(), lg);
+        g.fillRect(QRect(QPoint(0, 0), t), lg);
         if (i < 4) {
             // A gilt boss on each corner; larger on the wide frame.
             const qreal d = std::min(t.width(), t.height()) * (coin > 200 ? 0.5 : 0.6);
@@ -232,15 +238,11 @@ QPixmap piece_cadre(int coin, int i, QSize t) {
             g.setPen(Qt::NoPen);
             g.drawEllipse(QRectF((t.width() - d) / 2, (t.height() - d) / 2, d, d));
         }
-        return p;
     });
 }
 
 QPixmap bouton(bool oui, QSize t) {
-    return garde(QStringLiteral("bouton%1").arg(oui), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        g.setRenderHint(QPainter::Antialiasing);
+    return dessin(QStringLiteral("bouton%1").arg(oui), t, [&](QPainter& g) {
         const QRectF r(1, 1, t.width() - 2, t.height() - 2);
         g.setBrush(oui ? QColor(0x2e, 0x7d, 0x32) : QColor(0xa3, 0x1f, 0x24));
         g.setPen(QPen(or_vieux, 2));
@@ -254,7 +256,6 @@ QPixmap bouton(bool oui, QSize t) {
             g.drawLine(QPointF(cx - k * 0.7, cy - k * 0.7), QPointF(cx + k * 0.7, cy + k * 0.7));
             g.drawLine(QPointF(cx - k * 0.7, cy + k * 0.7), QPointF(cx + k * 0.7, cy - k * 0.7));
         }
-        return p;
     });
 }
 
@@ -349,6 +350,132 @@ QPixmap palette(QSize t) {
         g.setPen(QPen(QColor(0x5a, 0x3a, 0x22), 1));
         g.drawRect(QRect(0, 0, t.width() - 1, t.height() - 1));
         return p;
+    });
+}
+
+QPixmap barre(bool paire, QSize t) {
+    return dessin(QStringLiteral("barre%1").arg(paire), t, [&](QPainter& g) {
+        const QColor fond = paire ? papier : papier_ombre.lighter(106);
+        QLinearGradient lg(0, 0, 0, t.height());
+        lg.setColorAt(0, fond.lighter(103));
+        lg.setColorAt(1, fond.darker(104));
+        const qreal r = t.height() / 5.0;
+        g.setBrush(lg);
+        g.setPen(QPen(papier_ombre.darker(115), 1));
+        g.drawRoundedRect(QRectF(0.5, 0.5, t.width() - 1.0, t.height() - 1.0), r, r);
+        // A gilt mark at the end of the row, clear of its text.
+        const qreal d = t.height() * 0.22;
+        g.setBrush(or_vieux);
+        g.setPen(Qt::NoPen);
+        g.drawEllipse(QRectF(t.width() - d * 1.6, (t.height() - d) / 2, d, d));
+    });
+}
+
+QPixmap touche(QSize t) {
+    return dessin(QStringLiteral("touche"), t, [&](QPainter& g) {
+        const qreal m = std::max(1.0, t.width() / 30.0), r = t.width() / 7.0;
+        const QRectF dessous(m, m * 2, t.width() - 2 * m, t.height() - 3 * m);
+        g.setPen(Qt::NoPen);
+        g.setBrush(cuir_fonce);
+        g.drawRoundedRect(dessous, r, r);
+        // The cap, lit from above.
+        const QRectF dessus(m, m, t.width() - 2 * m, t.height() - 4 * m);
+        QLinearGradient lg(0, dessus.top(), 0, dessus.bottom());
+        lg.setColorAt(0, papier);
+        lg.setColorAt(1, papier_ombre);
+        g.setBrush(lg);
+        g.setPen(QPen(or_vieux, std::max(1.0, m)));
+        g.drawRoundedRect(dessus, r, r);
+    });
+}
+
+namespace {
+
+// A bust in a round medallion: the clothes and the face, under the hair each class has.
+void buste(QPainter& g, QSize t, QColor habit) {
+    const qreal w = t.width(), h = t.height();
+    g.setPen(Qt::NoPen);
+    g.setBrush(papier);
+    g.drawEllipse(QRectF(w * 0.03, h * 0.03, w * 0.94, h * 0.94));
+    QPainterPath epaules;
+    epaules.moveTo(w * 0.18, h * 0.92);
+    epaules.cubicTo(w * 0.2, h * 0.68, w * 0.8, h * 0.68, w * 0.82, h * 0.92);
+    epaules.closeSubpath();
+    g.setBrush(habit);
+    g.drawPath(epaules);
+    g.setBrush(QColor(0xf1, 0xc8, 0xa4));
+    g.drawEllipse(QRectF(w * 0.33, h * 0.24, w * 0.34, h * 0.4));
+    // Eyes and a smile.
+    g.setBrush(encre);
+    for (const qreal x : {0.43, 0.57})
+        g.drawEllipse(QPointF(w * x, h * 0.42), w * 0.022, h * 0.022);
+    g.setPen(QPen(encre, std::max(1.0, w / 60)));
+    g.setBrush(Qt::NoBrush);
+    g.drawArc(QRectF(w * 0.43, h * 0.46, w * 0.14, h * 0.09), 200 * 16, 140 * 16);
+    g.setPen(Qt::NoPen);
+}
+
+} // namespace
+
+QPixmap visage(int i, QSize t) {
+    return dessin(QStringLiteral("visage%1").arg(i), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        const std::array<QColor, 4> habits = {QColor(0x9e, 0x1b, 0x5a), QColor(0xd9, 0x6b, 0x9a),
+                                              QColor(0x2a, 0x4a, 0x7a), QColor(0x4a, 0x4a, 0x4a)};
+        const std::array<QColor, 4> cheveux = {QColor(0x5a, 0x34, 0x1c), QColor(0xc8, 0x96, 0x3c),
+                                               QColor(0x2b, 0x1a, 0x10), QColor(0xb8, 0xb8, 0xb8)};
+        const auto k = std::size_t(std::clamp(i, 0, 3));
+        if (k == 0) {
+            // Long hair down to the shoulders, behind the face.
+            g.setPen(Qt::NoPen);
+            g.setBrush(cheveux[k]);
+            g.drawRoundedRect(QRectF(w * 0.26, h * 0.2, w * 0.48, h * 0.56), w * 0.2, w * 0.2);
+        }
+        buste(g, t, habits[k]);
+        g.setBrush(cheveux[k]);
+        switch (k) {
+        case 0:
+            g.drawChord(QRectF(w * 0.3, h * 0.18, w * 0.4, h * 0.3), 0, 180 * 16);
+            break;
+        case 1:
+            // A fringe and a ponytail with its bow.
+            g.drawChord(QRectF(w * 0.31, h * 0.19, w * 0.38, h * 0.28), 0, 180 * 16);
+            g.drawEllipse(QRectF(w * 0.66, h * 0.24, w * 0.14, h * 0.3));
+            g.setBrush(QColor(0x9e, 0x1b, 0x1b));
+            g.drawEllipse(QRectF(w * 0.63, h * 0.2, w * 0.1, h * 0.08));
+            break;
+        case 2:
+            g.drawChord(QRectF(w * 0.32, h * 0.2, w * 0.36, h * 0.22), 0, 180 * 16);
+            break;
+        default:
+            // Grey at the temples, and a beard.
+            g.drawEllipse(QRectF(w * 0.31, h * 0.32, w * 0.07, h * 0.12));
+            g.drawEllipse(QRectF(w * 0.62, h * 0.32, w * 0.07, h * 0.12));
+            g.drawChord(QRectF(w * 0.33, h * 0.36, w * 0.34, h * 0.3), 180 * 16, 180 * 16);
+            g.setBrush(QColor(0xf1, 0xc8, 0xa4));
+            g.drawEllipse(QRectF(w * 0.44, h * 0.5, w * 0.12, h * 0.05));
+            break;
+        }
+        g.setBrush(Qt::NoBrush);
+        g.setPen(QPen(or_vieux, std::max(1.0, w / 40)));
+        g.drawEllipse(QRectF(w * 0.03, h * 0.03, w * 0.94, h * 0.94));
+    });
+}
+
+QPixmap nouveau_client(QSize t) {
+    return dessin(QStringLiteral("nouveau_client"), t, [&](QPainter& g) {
+        const int c = std::min(t.width(), t.height());
+        g.drawPixmap((t.width() - c) / 2, 0, visage(2, QSize(c, c)));
+        // A green "+" over the medallion's corner.
+        const qreal d = c * 0.42;
+        const QRectF rond(t.width() / 2.0 + c / 2.0 - d, c - d, d, d);
+        g.setPen(QPen(or_vieux, std::max(1.0, c / 40.0)));
+        g.setBrush(QColor(0x2e, 0x7d, 0x32));
+        g.drawEllipse(rond);
+        g.setPen(QPen(Qt::white, std::max(2.0, d / 6), Qt::SolidLine, Qt::RoundCap));
+        const QPointF m = rond.center();
+        g.drawLine(m - QPointF(d * 0.25, 0), m + QPointF(d * 0.25, 0));
+        g.drawLine(m - QPointF(0, d * 0.25), m + QPointF(0, d * 0.25));
     });
 }
 

@@ -12,9 +12,6 @@ class QPainter;
 namespace agenda::ui::icc {
 
 QPixmap couverture(QSize taille); // the leather under the open book
-// A page, its gutter towards the spine; drawn anew at each call, as the page surfaces keep what
-// they show.
-QPixmap page(QSize taille, bool gauche);
 // A page, its gutter towards the spine; drawn anew at each call, for the page surfaces keep
 // what they show.
 QPixmap page(QSize taille, bool gauche);
@@ -30,6 +27,14 @@ QPixmap bouton(bool oui, QSize taille);             // the two picture buttons o
 QPixmap horloge(int n, QSize taille);
 // Colour swatches; the colour is read from the pixel under the pointer.
 QPixmap palette(QSize taille);
+
+// The client list: a row's bar (even and odd rows alternate), a key of its keyboard, and the
+// new-client button.
+QPixmap barre(bool paire, QSize taille);
+QPixmap touche(QSize taille);
+QPixmap nouveau_client(QSize taille);
+// The client card's four classes: a lady, a young lady, a man, an older man with a beard.
+QPixmap visage(int i, QSize taille);
 
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.

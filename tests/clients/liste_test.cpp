@@ -206,3 +206,26 @@ TEST_F(Liste, LeFichierNeufRecoitClientsDivers) {
     EXPECT_EQ(l.List2[0].texte + QString::number(l.List2[0].numero),
               QStringLiteral("Clients Divers 1"));
 }
+
+TEST_F(Liste, LesRangsEtLesTouchesALeurPlace) {
+    // Rows begin 620 twips apart; keys stand in rows of three, each 200 twips lower than the one
+    // to its left, rows 1100 twips apart; a caption 120 twips under the top of its key.
+    for (const auto& [i, x, y] : {std::tuple{1, 11800, 330},
+                                  {2, 12900, 530},
+                                  {3, 14000, 730},
+                                  {4, 11800, 1430},
+                                  {26, 12900, 9330},
+                                  {27, 14000, 9530}}) {
+        EXPECT_EQ(std::pair(LitCli::touche(i).left, LitCli::touche(i).top), std::pair(x, y)) << i;
+        EXPECT_EQ(LitCli::toucc_rect(i).top, y + 120) << i;
+    }
+    EXPECT_EQ(LitCli::toucc(1) + LitCli::toucc(26) + LitCli::toucc(27),
+              QStringLiteral("AZAnnuler la dernière lettre"));
+    for (const auto& [i, top] : {std::pair{1, 620}, {14, 8680}}) {
+        EXPECT_EQ(
+            std::tuple(LitCli::lisbar(i).left, LitCli::lisbar(i).top, LitCli::lisbar(i).width),
+            std::tuple(330, top, 11000));
+        EXPECT_EQ(std::pair(LitCli::zlis_rect(i).left, LitCli::zlis_rect(i).top),
+                  std::pair(380, top));
+    }
+}

@@ -1,5 +1,7 @@
 #include "banc.h"
 
+#include <fcntl.h>
+#include <unistd.h>
 #include <vector>
 
 namespace agenda::bench {
@@ -31,6 +33,16 @@ void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {
     int n = int(args.size());
     benchmark::Initialize(&n, args.data());
     benchmark::RunSpecifiedBenchmarks(&medianes);
+}
+
+std::size_t lit_tout(const char* chemin) {
+    static std::vector<char> bloc(1 << 17);
+    const int fd = ::open(chemin, O_RDONLY);
+    std::size_t total = 0;
+    for (ssize_t n; fd >= 0 && (n = ::read(fd, bloc.data(), bloc.size())) > 0;)
+        total += std::size_t(n);
+    if (fd >= 0) ::close(fd);
+    return total;
 }
 
 } // namespace agenda::bench

@@ -3,6 +3,7 @@
 // on a busy machine swings by a third), and the medians kept for the ratios printed at the end.
 
 #include <benchmark/benchmark.h>
+#include <cstddef>
 #include <map>
 #include <string>
 
@@ -21,6 +22,9 @@ private:
     static double valeur(const std::map<std::string, double>& m, const std::string& cle);
     std::map<std::string, double> temps_, compteurs_;
 };
+
+// The plain sequential read that a scan is measured against: the whole file in 128 KiB blocks.
+std::size_t lit_tout(const char* chemin);
 
 // Runs the benchmarks chosen on the command line, `repetitions` times each unless it says
 // otherwise, printing the medians only.

@@ -22,7 +22,6 @@
 #include <array>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <fcntl.h>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -32,7 +31,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
-#include <unistd.h>
 
 using namespace agenda;
 
@@ -101,13 +99,9 @@ void BM_pas_nu(benchmark::State& state) {
     QLabel l(QStringLiteral("Agenda"), &w);
     w.show();
     repeint();
-    std::vector<char> bloc(1 << 18);
     const QByteArray nom = nom_fichier_rv(collab_de(state.range(0)), false).toLatin1();
     for (auto _ : state) {
-        const int fd = ::open(nom.constData(), O_RDONLY);
-        for (ssize_t n; (n = ::read(fd, bloc.data(), bloc.size())) > 0;)
-            benchmark::DoNotOptimize(n);
-        ::close(fd);
+        benchmark::DoNotOptimize(bench::lit_tout(nom.constData()));
         l.setText(l.text() == QStringLiteral("Agenda") ? QStringLiteral("Agenda.")
                                                        : QStringLiteral("Agenda"));
         w.update();

@@ -15,13 +15,10 @@
 #include <array>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <fcntl.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <string>
-#include <unistd.h>
-#include <vector>
 
 using namespace agenda;
 
@@ -51,16 +48,9 @@ void tailles(benchmark::internal::Benchmark* b) {
 }
 
 void BM_lecture_sequentielle(benchmark::State& state) {
-    std::vector<char> bloc(1 << 17);
     const QByteArray nom = nom_fichier_rv(collab_de(state), false).toLatin1();
-    for (auto _ : state) {
-        const int fd = ::open(nom.constData(), O_RDONLY);
-        std::size_t total = 0;
-        for (ssize_t n; (n = ::read(fd, bloc.data(), bloc.size())) > 0;)
-            total += std::size_t(n);
-        ::close(fd);
-        benchmark::DoNotOptimize(total);
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(bench::lit_tout(nom.constData()));
     state.SetBytesProcessed(state.iterations() * state.range(0) * RecRv::longueur);
 }
 BENCHMARK(BM_lecture_sequentielle)->Apply(tailles);

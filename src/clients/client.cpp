@@ -67,11 +67,12 @@ void ecrit_client(std::int32_t n) {
     ecrit_record(fichier(), std::int64_t(n) + 1, rec_cli);
 }
 
-void parcourt_clients(const std::function<void(std::int32_t, const RecCli&)>& visite) {
+void parcourt_clients(
+    const std::function<void(std::int32_t, std::span<const std::uint8_t>)>& visite) {
     const auto entete = lit_record<RecCli>(fichier(), 1);
     parcourt<RecCli>(fichier(), entete.lit(RecCli::dernier_client),
-                     [&](std::int32_t n, std::span<const std::uint8_t> octets) {
-                         visite(n, record_de<RecCli>(octets));
+                     [&](std::int32_t n, std::span<const std::uint8_t> client) {
+                         visite(n, client);
                          return true;
                      });
 }

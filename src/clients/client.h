@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 
 namespace agenda {
 
@@ -24,8 +25,9 @@ void cree_client();
 void lit_client(std::int32_t n);
 // rec_cli as client n.
 void ecrit_client(std::int32_t n);
-// Every client from 1 to the header's last, read in blocks into a buffer of the scan's own, so
-// that rec_cli stays the current client. A count past the end of the file stops at its end.
-void parcourt_clients(const std::function<void(std::int32_t numero, const RecCli&)>& visite);
+// Every client's bytes from 1 to the header's last, read in blocks into a buffer of the scan's
+// own, so that rec_cli stays the current client. A count past the end of the file stops there.
+void parcourt_clients(
+    const std::function<void(std::int32_t numero, std::span<const std::uint8_t> client)>& visite);
 
 } // namespace agenda

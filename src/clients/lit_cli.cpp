@@ -52,11 +52,11 @@ void LitCli::Form_Load() {
     ouvre_clients();
     List1.clear();
     List2.clear();
-    parcourt_clients([&](std::int32_t n, const RecCli& c) {
-        const QString nom = c.lit(RecCli::nom_client);
+    parcourt_clients([&](std::int32_t n, std::span<const std::uint8_t> client) {
+        const QString nom = RecCli::nom_client.dans(client);
         if (nom.startsWith(QLatin1String("(NUL)")) || sans_blancs(nom).isEmpty()) return;
         QString texte =
-            sans_blancs(nom) + QLatin1Char(' ') + sans_blancs(c.lit(RecCli::code_ville));
+            sans_blancs(nom) + QLatin1Char(' ') + sans_blancs(RecCli::code_ville.dans(client));
         QString cle = texte.toUpper();
         QString tri = de_tri(cle);
         List2.push_back({std::move(texte), n, std::move(cle), std::move(tri)});

@@ -3,7 +3,6 @@
 #include "data/etat.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
-#include "data/octets.h"
 #include "data/record.h"
 #include "data/texte.h"
 #include "ui/systeme.h"
@@ -24,15 +23,13 @@ void ferme_param() {
 // The number (from 1) of the first record holding the key, or 0. `trouve` receives it.
 int cherche(const QString& cle, RecParam& trouve) {
     int numero = 0;
-    parcourt<RecParam>(
-        store(), lit_record<RecParam>(store(), 1).lit(RecParam::nb_param),
-        [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-            if (octets::texte(rec, RecParam::cle_param.offset, RecParam::cle_param.largeur) != cle)
-                return true;
-            trouve = record_de<RecParam>(rec); // copied only when it is the one
-            numero = i;
-            return false;
-        });
+    parcourt<RecParam>(store(), lit_record<RecParam>(store(), 1).lit(RecParam::nb_param),
+                       [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+                           if (RecParam::cle_param.dans(rec) != cle) return true;
+                           trouve = record_de<RecParam>(rec); // copied only when it is the one
+                           numero = i;
+                           return false;
+                       });
     return numero;
 }
 

@@ -20,6 +20,10 @@ namespace agenda {
 struct Texte {
     int offset, largeur;
     constexpr int fin() const { return offset + largeur; }
+    // The field in a record's bytes as a scan holds them, without a copy of the record.
+    QString dans(std::span<const std::uint8_t> record) const {
+        return octets::texte(record, offset, largeur);
+    }
 };
 // Little-endian integers.
 struct Entier32 {

@@ -75,13 +75,12 @@ std::int32_t ajoute_inter() {
 
 std::int32_t cherche_inter(const QString& cle) {
     std::int32_t trouve = -1;
-    parcourt<RecInter>(
-        intlog(), compte_inter, [&](std::int32_t i, std::span<const std::uint8_t> r) {
-            if (octets::texte(r, RecInter::cle_inter.offset, RecInter::cle_inter.largeur) != cle)
-                return true;
-            trouve = i;
-            return false;
-        });
+    parcourt<RecInter>(intlog(), compte_inter,
+                       [&](std::int32_t i, std::span<const std::uint8_t> r) {
+                           if (RecInter::cle_inter.dans(r) != cle) return true;
+                           trouve = i;
+                           return false;
+                       });
     return trouve;
 }
 

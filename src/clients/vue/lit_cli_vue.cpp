@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
+#include <utility>
 
 namespace agenda {
 
@@ -107,26 +108,16 @@ LitCliVue::LitCliVue(LitCli& l) : VueModale(l, LitCli::largeur, LitCli::hauteur)
 }
 
 bool LitCliVue::eventFilter(QObject* o, QEvent* e) {
+    // The keys the criterion answers, by their codes in the window's logic.
+    static constexpr std::pair<int, int> touches[] = {{Qt::Key_Up, LitCli::haut},
+                                                      {Qt::Key_Down, LitCli::bas},
+                                                      {Qt::Key_Return, LitCli::entree},
+                                                      {Qt::Key_Enter, LitCli::entree},
+                                                      {Qt::Key_Escape, LitCli::echap}};
     if (o == text1_ && e->type() == QEvent::KeyPress) {
-        int touche = 0;
-        switch (static_cast<QKeyEvent*>(e)->key()) {
-        case Qt::Key_Up:
-            touche = LitCli::haut;
-            break;
-        case Qt::Key_Down:
-            touche = LitCli::bas;
-            break;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            touche = LitCli::entree;
-            break;
-        case Qt::Key_Escape:
-            touche = LitCli::echap;
-            break;
-        default:
-            break;
-        }
-        if (touche != 0) {
+        const int qt = static_cast<QKeyEvent*>(e)->key();
+        for (const auto& [touche_qt, touche] : touches) {
+            if (touche_qt != qt) continue;
             appelle([&] { l_.Text1_KeyDown(touche); });
             return true;
         }

@@ -44,17 +44,21 @@ QPixmap vierge(QSize t) {
     return p;
 }
 
-// A picture kept for its role and size, drawn anti-aliased on a transparent ground.
+// A picture drawn anti-aliased on a transparent ground.
+template <class Dessin>
+QPixmap trace(QSize t, Dessin&& dessine) {
+    QPixmap p = vierge(t);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    dessine(g);
+    g.end();
+    return p;
+}
+
+// The same, kept for its role and size.
 template <class Dessin>
 QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
-    return garde(role, t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        g.setRenderHint(QPainter::Antialiasing);
-        dessine(g);
-        g.end();
-        return p;
-    });
+    return garde(role, t, [&] { return trace(t, dessine); });
 }
 
 // The grain's points, for each alpha in the order they were drawn: the same at every drawing.
@@ -151,27 +155,25 @@ QPixmap couverture(QSize t) {
 }
 
 QPixmap page(QSize t, bool gauche) {
-    QPixmap p = vierge(t);
-    QPainter g(&p);
-    g.setRenderHint(QPainter::Antialiasing);
-    QPainterPath bord;
-    const qreal r = t.width() / 60.0;
-    bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
-    // The paper darkens towards the gutter, where the page curves into the binding.
-    QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
-    lg.setColorAt(0, papier_ombre);
-    lg.setColorAt(0.08, papier);
-    lg.setColorAt(0.97, papier);
-    lg.setColorAt(1, papier_ombre);
-    g.fillPath(bord, lg);
-    grain(g, t, 40, QColor(0x80, 0x60, 0x30));
-    // The edges of the leaves underneath, on the fore-edge side.
-    g.setPen(QPen(papier_ombre.darker(110), 1));
-    for (int i = 1; i <= 3; ++i) {
-        const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
-        g.drawLine(x, int(r), x, t.height() - int(r));
-    }
-    return p;
+    return trace(t, [&](QPainter& g) {
+        QPainterPath bord;
+        const qreal r = t.width() / 60.0;
+        bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
+        // The paper darkens towards the gutter, where the page curves into the binding.
+        QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
+        lg.setColorAt(0, papier_ombre);
+        lg.setColorAt(0.08, papier);
+        lg.setColorAt(0.97, papier);
+        lg.setColorAt(1, papier_ombre);
+        g.fillPath(bord, lg);
+        grain(g, t, 40, QColor(0x80, 0x60, 0x30));
+        // The edges of the leaves underneath, on the fore-edge side.
+        g.setPen(QPen(papier_ombre.darker(110), 1));
+        for (int i = 1; i <= 3; ++i) {
+            const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
+            g.drawLine(x, int(r), x, t.height() - int(r));
+        }
+    });
 }
 
 QPixmap reliure(QSize t) {

@@ -7,7 +7,6 @@
 #include "input/vue/date_97_vue.h"
 #include "input/vue/mini_97_vue.h"
 #include "support/support.h"
-#include "support/vues.h"
 #include "ui/dates.h"
 #include "ui/systeme.h"
 
@@ -21,8 +20,6 @@
 #include <QToolButton>
 
 using namespace agenda;
-using agenda::test::puis;
-using agenda::test::touche;
 
 namespace {
 
@@ -34,9 +31,27 @@ protected:
         ui::enregistre_vue<Date97, Date97Vue>();
         ui::enregistre_vue<Detarv, DetarvVue>();
     }
+    // Acts on the next modal window as soon as it is shown (its load may yield to the event
+    // loop before it is).
+    static void puis(std::function<void(QDialog&)> geste) {
+        QWidget* avant = QApplication::activeModalWidget();
+        auto* attente = new QTimer;
+        QObject::connect(attente, &QTimer::timeout, [attente, avant, geste] {
+            auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!d || d == avant) return;
+            attente->stop();
+            attente->deleteLater();
+            geste(*d);
+        });
+        attente->start(5);
+    }
     static void clique(QDialog& d, const char* texte) {
         for (auto* b : d.findChildren<QPushButton*>())
             if (b->text() == QString::fromUtf8(texte)) b->click();
+    }
+    static void touche(QWidget& w, int touche) {
+        QKeyEvent appui(QEvent::KeyPress, touche, Qt::NoModifier);
+        QApplication::sendEvent(&w, &appui);
     }
 };
 

@@ -5,6 +5,8 @@
 #include "editor/vue/detarv_vue.h"
 #include "input/vue/date_97_vue.h"
 #include "input/vue/mini_97_vue.h"
+#include "planning/vue/saisiuti_vue.h"
+#include "planning/vue/torva11_vue.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 #include "ui/vue/echelle.h"
@@ -24,6 +26,8 @@ void enregistre_fenetres() {
     ui::enregistre_vue<Detarv, DetarvVue>();
     ui::enregistre_vue<LitCli, LitCliVue>();
     ui::enregistre_vue<Cclifa, CclifaVue>();
+    ui::enregistre_vue<Torva11, Torva11Vue>();
+    ui::enregistre_vue<Saisiuti, SaisiutiVue>();
 }
 
 } // namespace

@@ -149,9 +149,11 @@ void ecrit_rendez_vous_collab(int collab, QRandomGenerator& rng) {
         while (minute < 18 * 60) {
             const auto& s = services[rng.bounded(int(std::size(services)))];
             const int client = 2 + int(rng.bounded(int(std::size(clients))));
-            // Today, two o'clock stays free for a walk-in.
-            if (ecart == 0 && minute < 15 * 60 && minute + s.minutes > 14 * 60) {
-                minute = 15 * 60;
+            // Today, two o'clock stays free for a walk-in, and four o'clock but for the first
+            // collaborator, for an appointment moved from the planning.
+            const int libre = ecart != 0 ? -1 : minute < 15 * 60 ? 14 : collab > 1 ? 16 : -1;
+            if (libre >= 0 && minute < (libre + 1) * 60 && minute + s.minutes > libre * 60) {
+                minute = (libre + 1) * 60;
                 continue;
             }
             const int fin = minute + s.minutes;

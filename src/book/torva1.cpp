@@ -10,6 +10,8 @@
 #include "data/texte.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
+#include "planning/saisiuti.h"
+#include "planning/torva11.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
@@ -171,11 +173,29 @@ void Torva1::sel_onglet(int n) {
         etape([&] { decod_date(); });
         etape([&] { affiche_rv(); });
         break;
-    default:
-        // The week, year, planning and search views are not in the book yet: their page
-        // slot shows empty.
+    case 3: {
+        // The planning may change the date, the collaborator and the open file: the whole
+        // load runs again once it has returned.
+        Torva11 planning;
+        etape([&] { ui::montre_modal(planning); });
+        Timer1.start(250);
         break;
     }
+    default:
+        // The week, year and search views are not in the book yet: their page slot shows
+        // empty.
+        break;
+    }
+}
+
+void Torva1::Label7_Click() {
+    Saisiuti choix;
+    ui::montre_modal(choix);
+    const QString& ligne = etat.texte_retour;
+    if (sans_blancs(ligne).isEmpty()) return;
+    ecrit_inter(QStringLiteral("TORVA:NUMUSER"),
+                motif_zeros(val(ligne), 4) + QLatin1Char(' ') + sans_blancs(mid1(ligne, 5)));
+    charge();
 }
 
 void Torva1::calend_Click(Date jour) {

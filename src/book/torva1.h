@@ -72,6 +72,8 @@ public:
     void calend_Click(Date jour);
     void Picture2_Click(); // the day before
     void Picture3_Click(); // the day after
+    // A click on the book's title: another collaborator's book, on the same date.
+    void Label7_Click();
     // A click in the ruling opens a new appointment at that hour; on a label, that appointment.
     // Coordinates are twips of the page.
     void pageg_MouseDown(int x, int y);

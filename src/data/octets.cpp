@@ -58,8 +58,9 @@ std::uint8_t octet_cp1252(QChar c) {
 
 QString depuis_cp1252(TamponLu octets) {
     QString s(static_cast<qsizetype>(octets.size()), Qt::Uninitialized);
-    for (std::size_t i = 0; i < octets.size(); ++i)
-        s[static_cast<qsizetype>(i)] = car_cp1252(octets[i]);
+    QChar* c = s.data();
+    for (const std::uint8_t o : octets)
+        *c++ = car_cp1252(o);
     return s;
 }
 
@@ -72,6 +73,15 @@ QByteArray vers_cp1252(QStringView s) {
 
 QString texte(TamponLu buf, int offset, int largeur) {
     return depuis_cp1252(buf.subspan(offset, largeur));
+}
+
+QString texte_sans_blancs(TamponLu buf, int offset, int largeur) {
+    TamponLu t = buf.subspan(offset, largeur);
+    while (!t.empty() && t.front() == ' ')
+        t = t.subspan(1);
+    while (!t.empty() && t.back() == ' ')
+        t = t.first(t.size() - 1);
+    return depuis_cp1252(t);
 }
 
 void pose_texte(Tampon buf, int offset, int largeur, QStringView s) {

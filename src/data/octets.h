@@ -23,6 +23,9 @@ std::uint8_t octet_cp1252(QChar c); // '?' for a character CP1252 cannot hold
 
 // A text field, with its padding blanks, as stored.
 QString texte(TamponLu buf, int offset, int largeur);
+// The same without its outer blanks, which are never decoded: a field of 402 characters is
+// mostly blanks.
+QString texte_sans_blancs(TamponLu buf, int offset, int largeur);
 // Stores a text left-justified, padded with blanks and cut to the field's width.
 void pose_texte(Tampon buf, int offset, int largeur, QStringView s);
 // Fills a field with blanks.

@@ -24,6 +24,9 @@ struct Texte {
     QString dans(std::span<const std::uint8_t> record) const {
         return octets::texte(record, offset, largeur);
     }
+    QString sans_blancs_dans(std::span<const std::uint8_t> record) const {
+        return octets::texte_sans_blancs(record, offset, largeur);
+    }
 };
 // Little-endian integers.
 struct Entier32 {

@@ -19,10 +19,7 @@
 
 namespace agenda {
 
-namespace {
-
-// An entry of the day list, built in one piece: it is made for every appointment of the day
-// at every load.
+// Built in one piece: it is made for every appointment of the day at every load.
 QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     constexpr int debut_cle = 19;
     // std::to_chars rather than a formatted print: this runs for every entry at every load.
@@ -54,6 +51,8 @@ QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     ajoute(std::string_view(couleur.chiffres, couleur.fin));
     return e;
 }
+
+namespace {
 
 // A key's first N characters, as bytes; N is fixed so that the comparison is inlined, which
 // matters when it runs on every record of the file.
@@ -115,15 +114,22 @@ std::int32_t code_jour(Date jour) {
     return d.day() + 31 * d.month();
 }
 
+void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
+                   const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv) {
+    const DebutCle<6> motif(motif_jour(jour));
+    parcourt<RecRv>(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        return !motif.ouvre(rec) || rv(i, rec);
+    });
+}
+
 QStringList scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
-    const std::int32_t compte = repare_entete(f);
-    const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
-    parcourt<RecRv>(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        if (motif.ouvre(rec)) liste.append(entree_du_jour(i, rec));
-        return true;
-    });
+    parcourt_jour(f, repare_entete(f), jour,
+                  [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+                      liste.append(entree_du_jour(i, rec));
+                      return true;
+                  });
     return liste;
 }
 

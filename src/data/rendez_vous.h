@@ -5,7 +5,9 @@
 #include "data/etat.h"
 
 #include <cstdint>
+#include <functional>
 #include <QString>
+#include <span>
 
 namespace agenda {
 
@@ -33,6 +35,12 @@ std::int32_t code_jour(Date jour);
 void charge_journee();
 // The same scan on any file and for any day, for views that show other days or collaborators.
 QStringList scan_journee(FichierRecords& f, Date jour);
+// The day's records among the first `compte` of a file, in record order: their numbers and
+// bytes, until `rv` answers false.
+void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
+                   const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv);
+// An entry of the day list for appointment `numero` and its record's bytes.
+QString entree_du_jour(std::int32_t numero, std::span<const std::uint8_t> rec);
 
 // The number of the first note whose first nine characters are the key ("JO:yymmdd",
 // "SE:yymmdd"), or 0. The note file must be open on channel 16.

@@ -44,6 +44,7 @@ QFont police_twips(const QString& nom, double points) {
 void Surface::efface() {
     traits_.clear();
     textes_.clear();
+    boites_.clear();
 }
 
 void Surface::ligne(int x1, int y1, int x2, int y2, std::int32_t c) {
@@ -54,8 +55,31 @@ void Surface::ecrit(int x, int y, const QString& texte) {
     textes_.push_back({x, y, texte, police_, taille_, couleur_texte_});
 }
 
+void Surface::boite(int x1, int y1, int x2, int y2, std::int32_t c) {
+    boites_.push_back({x1, y1, x2, y2, c});
+}
+
+std::int32_t Surface::couleur_point(int x, int y) const {
+    const auto b = std::find_if(boites_.rbegin(), boites_.rend(),
+                                [&](const Boite& b) { return b.contient(x, y); });
+    return b == boites_.rend() ? fond_ : b->couleur;
+}
+
+const QFontMetricsF& Surface::mesures() const {
+    if (!mesures_ || police_mesuree_ != police_ || taille_mesuree_ != taille_) {
+        mesures_.emplace(police_twips(police_, taille_));
+        police_mesuree_ = police_;
+        taille_mesuree_ = taille_;
+    }
+    return *mesures_;
+}
+
+int Surface::hauteur_texte(const QString&) const {
+    return int(std::lround(mesures().height()));
+}
+
 int Surface::largeur_texte(const QString& texte) const {
-    return int(std::lround(QFontMetricsF(police_twips(police_, taille_)).horizontalAdvance(texte)));
+    return int(std::lround(mesures().horizontalAdvance(texte)));
 }
 
 } // namespace agenda::ui

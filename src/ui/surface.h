@@ -2,8 +2,11 @@
 // A drawing surface in twips. Drawing records what was drawn; the widget that shows the
 // surface replays it at the screen's scale, and tests read it back in twips.
 
+#include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <QColor>
+#include <QFontMetricsF>
 #include <QString>
 #include <vector>
 
@@ -34,6 +37,16 @@ public:
         std::int32_t couleur;
         bool operator==(const Texte&) const = default;
     };
+    // A filled box between two corners given in any order, both edges included.
+    struct Boite {
+        int x1, y1, x2, y2;
+        std::int32_t couleur;
+        bool contient(int x, int y) const {
+            return x >= std::min(x1, x2) && x <= std::max(x1, x2) && y >= std::min(y1, y2) &&
+                   y <= std::max(y1, y2);
+        }
+        bool operator==(const Boite&) const = default;
+    };
 
     void efface();
     void police(const QString& nom) { police_ = nom; }
@@ -43,24 +56,39 @@ public:
     void epaisseur(int twips) { epaisseur_ = twips; }
     void ligne(int x1, int y1, int x2, int y2, std::int32_t couleur);
     void ecrit(int x, int y, const QString& texte);
-    // Width of a text in the current font, in twips.
+    void boite(int x1, int y1, int x2, int y2, std::int32_t couleur);
+    // Width and height of a text in the current font, in twips.
     int largeur_texte(const QString& texte) const;
+    int hauteur_texte(const QString& texte) const;
+    // The colour at a point: the last box drawn there, or the surface's own.
+    std::int32_t couleur_point(int x, int y) const;
+    void couleur_fond(std::int32_t c) { fond_ = c; }
 
     const std::vector<Trait>& traits() const { return traits_; }
     const std::vector<Texte>& textes() const { return textes_; }
+    const std::vector<Boite>& boites() const { return boites_; }
     // The same drawing: what was drawn, whatever the pen is set to now.
     bool meme_dessin(const Surface& autre) const {
-        return traits_ == autre.traits_ && textes_ == autre.textes_;
+        return traits_ == autre.traits_ && textes_ == autre.textes_ && boites_ == autre.boites_;
     }
 
 private:
+    // The measures of the current font, made once for as long as the font stays: a text laid
+    // character by character is measured at each character.
+    const QFontMetricsF& mesures() const;
+    mutable std::optional<QFontMetricsF> mesures_;
+    mutable QString police_mesuree_;
+    mutable double taille_mesuree_ = 0;
+
     QString police_ = QStringLiteral("Arial");
     double taille_ = 8;
     std::int32_t couleur_texte_ = 0;
     bool pointille_ = false;
     int epaisseur_ = 0;
+    std::int32_t fond_ = 0xFFFFFF;
     std::vector<Trait> traits_;
     std::vector<Texte> textes_;
+    std::vector<Boite> boites_;
 };
 
 } // namespace agenda::ui

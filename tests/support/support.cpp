@@ -2,6 +2,7 @@
 
 #include "clients/lit_cli.h"
 #include "data/fichier_records.h"
+#include "planning/torva11.h"
 #include "ui/systeme.h"
 
 #include <QDir>
@@ -54,6 +55,7 @@ void DossierDonnees::SetUp() {
     ferme_tous_les_canaux();
     etat = Etat{};
     page_liste = 0;
+    transfert = Transfert::repos;
     ui::fixe_horloge([] { return QDateTime(QDate(2004, 3, 3), QTime(10, 0)); });
     ui::fixe_fin([](int code) { throw FinDemandee{code}; });
     ui::fixe_lanceur([](const QString&) { return true; });

@@ -1,6 +1,8 @@
 #include "book/vue/torva1_vue.h"
 
+#include "planning/vue/sepaffic.h"
 #include "ui/erreur.h"
+#include "ui/vue/boutons.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"
@@ -24,20 +26,6 @@ QString teinte(std::int32_t bbggrr) {
 }
 
 } // namespace
-
-Banniere::Banniere() : QWidget(nullptr, Qt::FramelessWindowHint) {
-    setObjectName(QStringLiteral("sepaffic"));
-    setFixedSize(ui::px(7200), ui::px(1800));
-}
-
-void Banniere::paintEvent(QPaintEvent*) {
-    // Drawn when shown, and only then: the banner is loaded at start but seldom shown.
-    QPainter g(this);
-    g.drawPixmap(0, 0, ui::icc::couverture(size()));
-    g.setFont(ui::police(QStringLiteral("DejaVu Serif"), 20, true));
-    g.setPen(QColor(0xc9, 0xa4, 0x4c));
-    g.drawText(rect(), Qt::AlignCenter, QStringLiteral("Agenda — le carnet de rendez-vous"));
-}
 
 Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     ui::pose_fenetre_principale(this);
@@ -96,6 +84,9 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     label4_ = texte(pageg_, Torva1::Label4_rect, 18, false, gauche_haut);
     label1_ = texte(pageg_, Torva1::Label1_rect, 14, false, gauche_haut);
     label7_ = texte(paged_, Torva1::Label7_rect, 20, true, Qt::AlignCenter);
+    label7_->setCursor(Qt::PointingHandCursor);
+    label7_->setToolTip(QStringLiteral("Changer de collaborateur"));
+    label7_->installEventFilter(this);
 
     calend_ = new QCalendarWidget(pageg_);
     ui::place(*calend_, Torva1::calend_rect);
@@ -107,41 +98,21 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     connect(calend_, &QCalendarWidget::clicked, this,
             [this](QDate d) { appelle([&] { l_.calend_Click(ui::date_de(d)); }); });
 
-    const auto fleche = [this](QWidget* page, const ui::RectTwips& r, bool gauche) {
-        auto* b = new QToolButton(page);
-        ui::place(*b, r);
-        b->setAutoRaise(true);
-        b->setCursor(Qt::PointingHandCursor);
-        b->setIcon(ui::icc::fleche(gauche, b->size()));
-        b->setIconSize(b->size());
-        b->setToolTip(gauche ? QStringLiteral("Jour précédent") : QStringLiteral("Jour suivant"));
-        return b;
-    };
-    picture2_ = fleche(pageg_, Torva1::Picture2_rect, true);
-    picture3_ = fleche(paged_, Torva1::Picture3_rect, false);
-    connect(picture2_, &QToolButton::clicked, this,
-            [this] { appelle([&] { l_.Picture2_Click(); }); });
-    connect(picture3_, &QToolButton::clicked, this,
-            [this] { appelle([&] { l_.Picture3_Click(); }); });
+    picture2_ = ui::fleche_jour(*pageg_, Torva1::Picture2_rect, true,
+                                [this] { appelle([&] { l_.Picture2_Click(); }); });
+    picture3_ = ui::fleche_jour(*paged_, Torva1::Picture3_rect, false,
+                                [this] { appelle([&] { l_.Picture3_Click(); }); });
 
     vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
 
-    connect(&l_, &Torva1::charge_banniere, this, [this] {
-        sepaffic_ = std::make_unique<Banniere>();
-        ui::centre_fenetre_haut(*sepaffic_);
-    });
+    connect(&l_, &Torva1::charge_banniere, this,
+            [this] { sepaffic_ = std::make_unique<Sepaffic>(); });
     // Timer3 never puts the book above a window it opened.
     connect(&l_, &Torva1::au_premier_plan, this, [] { ui::au_premier_plan(); });
 }
 
 Torva1Vue::~Torva1Vue() {
     ui::pose_fenetre_principale(nullptr);
-}
-
-void Torva1Vue::apres_le_clic(std::function<void()> handler) {
-    // The window a click opens runs after the click's events have been delivered, so that its
-    // modal loop does not start inside the toolkit's mouse handling.
-    QTimer::singleShot(0, this, [this, handler = std::move(handler)] { appelle(handler); });
 }
 
 QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
@@ -229,6 +200,10 @@ QLabel* Torva1Vue::nouvelle_etiquette(bool gauche) {
 }
 
 bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
+    if (o == label7_ && e->type() == QEvent::MouseButtonRelease) {
+        apres_le_clic([this] { l_.Label7_Click(); });
+        return true;
+    }
     // A click on a label is the label's, not the page's beneath it.
     if (!o->property("indice").isValid()) return QWidget::eventFilter(o, e);
     if (e->type() == QEvent::MouseButtonPress) return true;

@@ -18,18 +18,10 @@ class QToolButton;
 
 namespace agenda {
 
+class Sepaffic;
 namespace ui {
 class VueSurface;
 } // namespace ui
-
-// The banner sepaffic: loaded with the book, hidden.
-class Banniere : public QWidget {
-public:
-    Banniere();
-
-protected:
-    void paintEvent(QPaintEvent*) override;
-};
 
 class Torva1Vue : public QWidget, public ui::Vue {
 public:
@@ -43,12 +35,11 @@ protected:
 
 private:
     void montre() override;
-    void apres_le_clic(std::function<void()> handler);
     QLabel* texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
                   Qt::Alignment a);
 
     Torva1& l_;
-    std::unique_ptr<Banniere> sepaffic_;
+    std::unique_ptr<Sepaffic> sepaffic_;
     ui::VueSurface* pageg_;
     ui::VueSurface* paged_;
     std::array<QPushButton*, Torva1::nb_onglets> ongletg_{}, ongletd_{};

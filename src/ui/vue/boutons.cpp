@@ -19,4 +19,17 @@ QToolButton* bouton_image(QWidget& parent, const RectTwips& r, bool oui,
     return b;
 }
 
+QToolButton* fleche_jour(QWidget& parent, const RectTwips& r, bool precedent,
+                         std::function<void()> clic) {
+    auto* b = new QToolButton(&parent);
+    place(*b, r);
+    b->setAutoRaise(true);
+    b->setCursor(Qt::PointingHandCursor);
+    b->setIcon(icc::fleche(precedent, b->size()));
+    b->setIconSize(b->size());
+    b->setToolTip(precedent ? QStringLiteral("Jour précédent") : QStringLiteral("Jour suivant"));
+    QObject::connect(b, &QToolButton::clicked, b, std::move(clic));
+    return b;
+}
+
 } // namespace agenda::ui

@@ -1,5 +1,6 @@
 #pragma once
-// The picture buttons "Oui" and "Non" of the small windows.
+// The picture buttons "Oui" and "Non" of the small windows, and the arrows that step from day to
+// day.
 
 #include "ui/geometrie.h"
 
@@ -12,5 +13,8 @@ namespace agenda::ui {
 
 QToolButton* bouton_image(QWidget& parent, const RectTwips& r, bool oui,
                           std::function<void()> clic);
+
+QToolButton* fleche_jour(QWidget& parent, const RectTwips& r, bool precedent,
+                         std::function<void()> clic);
 
 } // namespace agenda::ui

@@ -482,3 +482,62 @@ QPixmap nouveau_client(QSize t) {
 }
 
 } // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap transfert(QSize t) {
+    return dessin(QStringLiteral("transfert"), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        // An appointment's label, and the arrow that carries it to another column.
+        g.fillRect(QRectF(w * 0.08, h * 0.2, w * 0.34, h * 0.45), QColor(0xff, 0xe0, 0xc0));
+        g.setPen(QPen(encre, std::max(1.0, w / 28)));
+        g.drawRect(QRectF(w * 0.08, h * 0.2, w * 0.34, h * 0.45));
+        QPainterPath fleche;
+        fleche.moveTo(w * 0.45, h * 0.5);
+        fleche.cubicTo(w * 0.6, h * 0.15, w * 0.75, h * 0.2, w * 0.82, h * 0.55);
+        g.setPen(QPen(cuir_clair, std::max(1.5, w / 14), Qt::SolidLine, Qt::RoundCap));
+        g.drawPath(fleche);
+        QPainterPath pointe;
+        pointe.moveTo(w * 0.7, h * 0.5);
+        pointe.lineTo(w * 0.95, h * 0.5);
+        pointe.lineTo(w * 0.83, h * 0.8);
+        pointe.closeSubpath();
+        g.fillPath(pointe, cuir_clair);
+    });
+}
+
+QPixmap calendrier(QSize t) {
+    return dessin(QStringLiteral("calendrier"), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        const QRectF feuille(w * 0.15, h * 0.15, w * 0.7, h * 0.7);
+        g.fillRect(feuille, papier);
+        g.fillRect(QRectF(feuille.left(), feuille.top(), feuille.width(), h * 0.18), cuir_clair);
+        g.setPen(QPen(encre, std::max(1.0, w / 30)));
+        g.drawRect(feuille);
+        g.setPen(Qt::NoPen);
+        g.setBrush(encre);
+        for (int r = 0; r < 3; ++r)
+            for (int c = 0; c < 4; ++c)
+                g.drawEllipse(QPointF(w * (0.25 + c * 0.16), h * (0.46 + r * 0.13)), w * 0.03,
+                              w * 0.03);
+    });
+}
+
+QPixmap sortie(QSize t) {
+    return dessin(QStringLiteral("sortie"), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        // A door ajar, and the way out.
+        g.fillRect(QRectF(w * 0.15, h * 0.12, w * 0.4, h * 0.76), cuir_fonce);
+        QPolygonF porte{
+            {w * 0.15, h * 0.12}, {w * 0.42, h * 0.2}, {w * 0.42, h * 0.95}, {w * 0.15, h * 0.88}};
+        g.setBrush(cuir_clair);
+        g.setPen(QPen(or_vieux, std::max(1.0, w / 30)));
+        g.drawPolygon(porte);
+        g.setPen(QPen(encre, std::max(1.5, w / 14), Qt::SolidLine, Qt::RoundCap));
+        g.drawLine(QPointF(w * 0.6, h * 0.5), QPointF(w * 0.9, h * 0.5));
+        g.drawLine(QPointF(w * 0.78, h * 0.38), QPointF(w * 0.9, h * 0.5));
+        g.drawLine(QPointF(w * 0.78, h * 0.62), QPointF(w * 0.9, h * 0.5));
+    });
+}
+
+} // namespace agenda::ui::icc

@@ -36,6 +36,11 @@ QPixmap nouveau_client(QSize taille);
 // The client card's four classes: a lady, a young lady, a man, an older man with a beard.
 QPixmap visage(int i, QSize taille);
 
+// The planning's buttons: the transfer, the date chooser, the way out.
+QPixmap transfert(QSize taille);
+QPixmap calendrier(QSize taille);
+QPixmap sortie(QSize taille);
+
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.
 void grain(QPainter& g, QSize taille, int densite, QColor c);

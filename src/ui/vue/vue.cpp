@@ -3,6 +3,7 @@
 #include "ui/erreur.h"
 #include "ui/vue/echelle.h"
 
+#include <QTimer>
 #include <vector>
 
 namespace agenda::ui {
@@ -31,6 +32,10 @@ Vue::~Vue() {
 void Vue::appelle(const std::function<void()>& handler) {
     protege(handler);
     if (!logique_.fermee()) montre();
+}
+
+void Vue::apres_le_clic(std::function<void()> handler) {
+    QTimer::singleShot(0, &garde_, [this, handler = std::move(handler)] { appelle(handler); });
 }
 
 void pose_fenetre_principale(QWidget* fenetre) {

@@ -22,9 +22,14 @@ protected:
     void appelle(const std::function<void()>& handler);
     // Renders the logic's state.
     virtual void montre() = 0;
+    // A click's handler that may open a window, run once the click's events have been
+    // delivered, so that the window's modal loop does not start inside the toolkit's mouse
+    // handling.
+    void apres_le_clic(std::function<void()> handler);
 
 private:
     Fenetre& logique_;
+    QObject garde_; // a handler still waiting is dropped with the view
 };
 
 // The main window: the bottom of the windows on show.

@@ -26,6 +26,15 @@ void VueSurface::mouseReleaseEvent(QMouseEvent* e) {
         sur_clic(twips(int(e->position().x())), twips(int(e->position().y())));
 }
 
+void VueSurface::mouseMoveEvent(QMouseEvent* e) {
+    if (sur_mouvement) sur_mouvement(twips(int(e->position().x())), twips(int(e->position().y())));
+}
+
+void VueSurface::suit_la_souris(std::function<void(int x, int y)> mouvement) {
+    sur_mouvement = std::move(mouvement);
+    setMouseTracking(true);
+}
+
 void VueSurface::montre(const Surface* surface) {
     if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
     surface_ = surface ? std::optional(*surface) : std::nullopt;
@@ -63,6 +72,10 @@ void VueSurface::dessine(QPainter& g) const {
         g.setPen(pen);
         g.drawLine(t.x1, t.y1, t.x2, t.y2);
     }
+    for (const auto& b : surface_->boites())
+        g.fillRect(QRect(QPoint(std::min(b.x1, b.x2), std::min(b.y1, b.y2)),
+                         QPoint(std::max(b.x1, b.x2), std::max(b.y1, b.y2))),
+                   couleur(b.couleur));
     for (const auto& t : surface_->textes()) {
         QFont f(t.police);
         f.setPixelSize(std::max(1, int(std::lround(t.taille * twips_par_point))));

@@ -24,15 +24,19 @@ public:
     void montre(const Surface* surface);
     // A click of any button, in twips of the surface.
     std::function<void(int x, int y)> sur_clic;
+    // Every move of the pointer over the surface, a button pressed or not.
+    void suit_la_souris(std::function<void(int x, int y)> mouvement);
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
 
 private:
     void dessine(QPainter& g) const;
     Fond fond_;
+    std::function<void(int x, int y)> sur_mouvement;
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QPixmap rendu_;                  // the background with the drawing on it
 };

@@ -1,5 +1,6 @@
 #include "banc.h"
 
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 #include <vector>
@@ -20,6 +21,12 @@ void Medianes::ReportRuns(const std::vector<Run>& runs) {
 double Medianes::valeur(const std::map<std::string, double>& m, const std::string& cle) {
     const auto it = m.find(cle);
     return it == m.end() ? 0 : it->second;
+}
+
+void imprime_ratio(const Medianes& m, const std::string& mesure, const std::string& reference,
+                   const std::string& libelle) {
+    const double a = m.temps(mesure), b = m.temps(reference);
+    if (a > 0 && b > 0) std::printf("%s : %.2f\n", libelle.c_str(), a / b);
 }
 
 void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {

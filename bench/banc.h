@@ -23,6 +23,10 @@ private:
     std::map<std::string, double> temps_, compteurs_;
 };
 
+// "libelle : ratio" of two medians, when both ran.
+void imprime_ratio(const Medianes& m, const std::string& mesure, const std::string& reference,
+                   const std::string& libelle);
+
 // The plain sequential read that a scan is measured against: the whole file in 128 KiB blocks.
 std::size_t lit_tout(const char* chemin);
 

@@ -98,11 +98,9 @@ int main(int argc, char** argv) {
     bench::Medianes rapport;
     bench::lance_bancs(argc, argv, 5, rapport);
     ferme_tous_les_canaux();
-    const double ouverture = rapport.temps("BM_ouverture_liste");
-    const double lecture = rapport.temps("BM_lecture_sequentielle");
-    if (ouverture > 0 && lecture > 0)
-        std::printf("ouverture de la liste / lecture séquentielle (%d clients) : %.2f\n", clients,
-                    ouverture / lecture);
+    bench::imprime_ratio(rapport, "BM_ouverture_liste", "BM_lecture_sequentielle",
+                         "ouverture de la liste / lecture séquentielle (" +
+                             std::to_string(clients) + " clients)");
     benchmark::Shutdown();
     return 0;
 }

@@ -12,6 +12,7 @@
 #include "editor/inter.h"
 #include "planning/saisiuti.h"
 #include "planning/torva11.h"
+#include "sms/sms.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
@@ -111,6 +112,7 @@ void Torva1::charge() {
     sel_onglet(0);
     if (lit_inter(QStringLiteral("TORVA:NUMUSER")).left(6) == QLatin1String("#GENE#"))
         Timer2.start(200);
+    ouvre_sms();
     ui::cede();
     modifie();
 }

@@ -13,6 +13,8 @@
 #include "editor/inter.h"
 #include "input/date_97.h"
 #include "input/mini_97.h"
+#include "sms/sms.h"
+#include "sms/verifsmss.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
@@ -111,6 +113,7 @@ QStringList Detarv::minutes() {
 }
 
 void Detarv::Form_Load() {
+    etape([&] { dca_jour_pla = lit_valeur_param(QStringLiteral("DCA:JOUR:PLA")); });
     etape([&] { lit_horloge(); });
     etape([&] { charge_horloge(); });
     etape([&] { ref_sms_chargee.clear(); });
@@ -210,6 +213,12 @@ void Detarv::sauve_rv() {
         r.pose(RecRv::ref_sms, ref_sms_nouvelle);
     }
     ecrit_record(f, std::int64_t(etat.num_rv) + 1, r);
+    // The reminder, and the client's waiting reminders at once, where a duplicate shows.
+    if (!etat.sms_actif || ref_sms_nouvelle.isEmpty()) return;
+    if (queue_rappel({Text2, ref_sms_nouvelle, etat.date_courante, Combo1, Combo2}, dca_jour_pla)) {
+        Verifsmss gestionnaire;
+        ui::montre_modal(gestionnaire);
+    }
 }
 
 void Detarv::bt_valid_Click() {
@@ -233,6 +242,7 @@ void Detarv::bt_annul_Click() {
     ecrit_record(f, numero, r);
     ui::cede();
     etat.num_rv = 0;
+    if (etat.sms_actif && !ref_sms_chargee.isEmpty()) annule_sms(ref_sms_chargee);
     ferme();
 }
 

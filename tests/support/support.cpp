@@ -3,6 +3,7 @@
 #include "clients/lit_cli.h"
 #include "data/fichier_records.h"
 #include "planning/torva11.h"
+#include "sms/sms.h"
 #include "ui/systeme.h"
 
 #include <QDir>
@@ -56,6 +57,10 @@ void DossierDonnees::SetUp() {
     etat = Etat{};
     page_liste = 0;
     transfert = Transfert::repos;
+    ref_sms_nouvelle.clear();
+    ref_sms_chargee.clear();
+    // No test touches the SMS module's real folder: by default it is missing.
+    fixe_dossier_sms(dossier_.filePath(QStringLiteral("sans_sms/")));
     ui::fixe_horloge([] { return QDateTime(QDate(2004, 3, 3), QTime(10, 0)); });
     ui::fixe_fin([](int code) { throw FinDemandee{code}; });
     ui::fixe_lanceur([](const QString&) { return true; });
@@ -66,6 +71,7 @@ void DossierDonnees::TearDown() {
     ui::fixe_horloge({});
     ui::fixe_fin({});
     ui::fixe_lanceur({});
+    fixe_dossier_sms({});
     QDir::setCurrent(ancien_);
 }
 

@@ -541,3 +541,22 @@ QPixmap sortie(QSize t) {
 }
 
 } // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap marque_sms(bool annulee, QSize t) {
+    return dessin(QStringLiteral("marque_sms%1").arg(annulee), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        g.setPen(QPen(annulee ? QColor(0xb0, 0x10, 0x20) : QColor(0x2e, 0x7d, 0x32),
+                      std::max(1.5, w / 7), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        if (annulee) {
+            g.drawLine(QPointF(w * 0.2, h * 0.2), QPointF(w * 0.8, h * 0.8));
+            g.drawLine(QPointF(w * 0.8, h * 0.2), QPointF(w * 0.2, h * 0.8));
+        } else {
+            g.drawPolyline(
+                QPolygonF{{w * 0.18, h * 0.55}, {w * 0.42, h * 0.78}, {w * 0.84, h * 0.24}});
+        }
+    });
+}
+
+} // namespace agenda::ui::icc

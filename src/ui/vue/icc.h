@@ -41,6 +41,9 @@ QPixmap transfert(QSize taille);
 QPixmap calendrier(QSize taille);
 QPixmap sortie(QSize taille);
 
+// The SMS manager's pair: a message kept, a message marked for cancelling.
+QPixmap marque_sms(bool annulee, QSize taille);
+
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.
 void grain(QPainter& g, QSize taille, int densite, QColor c);

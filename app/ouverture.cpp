@@ -3,6 +3,7 @@
 #include "clients/vue/cclifa_vue.h"
 #include "clients/vue/lit_cli_vue.h"
 #include "editor/vue/detarv_vue.h"
+#include "input/vue/clavv_vue.h"
 #include "input/vue/date_97_vue.h"
 #include "input/vue/mini_97_vue.h"
 #include "planning/vue/saisiuti_vue.h"
@@ -24,6 +25,7 @@ namespace {
 void enregistre_fenetres() {
     ui::enregistre_vue<Mini97, Mini97Vue>();
     ui::enregistre_vue<Date97, Date97Vue>();
+    ui::enregistre_vue<Clavv, ClavvVue>();
     ui::enregistre_vue<Detarv, DetarvVue>();
     ui::enregistre_vue<LitCli, LitCliVue>();
     ui::enregistre_vue<Cclifa, CclifaVue>();

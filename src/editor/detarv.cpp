@@ -11,6 +11,7 @@
 #include "data/rendez_vous.h"
 #include "data/texte.h"
 #include "editor/inter.h"
+#include "input/clavv.h"
 #include "input/date_97.h"
 #include "input/mini_97.h"
 #include "sms/sms.h"
@@ -219,6 +220,29 @@ void Detarv::sauve_rv() {
         Verifsmss gestionnaire;
         ui::montre_modal(gestionnaire);
     }
+}
+
+namespace {
+
+// The on-screen keyboard on a question and a text; its answer, or the text as it was.
+QString au_clavier(std::int32_t mode, const QString& question, const QString& texte) {
+    etat.mini_mode = mode;
+    etat.mini_texte = question + QLatin1Char('|') + sans_blancs(texte);
+    Clavv clavier;
+    ui::montre_modal(clavier);
+    return etat.mini_texte;
+}
+
+} // namespace
+
+void Detarv::Text1_Click() {
+    if (etat.clavier_ecran != 0)
+        Text1 = au_clavier(Clavv::mode_texte, QStringLiteral("Détail du rendez vous ?"), Text1);
+}
+
+void Detarv::Text2_Click() {
+    if (etat.clavier_ecran != 0)
+        Text2 = au_clavier(Clavv::mode_nombre, QStringLiteral("N° de portable valide ?"), Text2);
 }
 
 void Detarv::bt_valid_Click() {

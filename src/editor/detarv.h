@@ -42,6 +42,10 @@ public:
     // The card of the client attached.
     void Image2_Click();
     void Picture1_MouseDown(std::int32_t couleur_du_pixel);
+    // On a touch screen, a tap on the text or the SMS number opens the on-screen keyboard in
+    // place of typing.
+    void Text1_Click();
+    void Text2_Click();
 
     // The clock.
     void charge_horloge();

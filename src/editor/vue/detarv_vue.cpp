@@ -1,5 +1,7 @@
 #include "editor/vue/detarv_vue.h"
 
+#include "data/etat.h"
+
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"
@@ -66,6 +68,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     connect(text1_, &QPlainTextEdit::textChanged, this,
             [this] { l_.Text1 = ecran_vers_crlf(text1_->toPlainText()); });
     l_.focus_texte = [this] { text1_->setFocus(); };
+    text1_->viewport()->installEventFilter(this);
 
     picture1_ = new QLabel(this);
     ui::place(*picture1_, Detarv::Picture1_rect);
@@ -84,6 +87,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     ui::place(*text2_, Detarv::Text2_rect);
     text2_->setFont(police(10));
     connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
+    text2_->installEventFilter(this);
 
     // The client: the list, and the card of the one attached.
     const auto image = [&](const RectTwips& r, const QPixmap& p, const QString& aide,
@@ -208,6 +212,14 @@ DetarvVue::~DetarvVue() {
 }
 
 bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
+    // On a touch screen the text and the SMS number are typed on the on-screen keyboard.
+    const bool texte = o == text1_->viewport(), sms = o == text2_;
+    if ((texte || sms) && etat.clavier_ecran != 0 &&
+        (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::MouseButtonRelease)) {
+        if (e->type() == QEvent::MouseButtonRelease)
+            apres_le_clic([this, texte] { texte ? l_.Text1_Click() : l_.Text2_Click(); });
+        return true;
+    }
     if (o == picture1_ && e->type() == QEvent::MouseButtonPress) {
         const QPoint p = static_cast<QMouseEvent*>(e)->position().toPoint();
         const QImage image = picture1_->pixmap().toImage();

@@ -560,3 +560,37 @@ QPixmap marque_sms(bool annulee, QSize t) {
 }
 
 } // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap clavier(QSize t, const std::vector<Touche>& touches) {
+    // Made once per size: the keys stand where the layout puts them, whatever the text.
+    return dessin(QStringLiteral("clavier"), t, [&](QPainter& g) {
+        QLinearGradient fond(0, 0, 0, t.height());
+        fond.setColorAt(0, cuir_clair);
+        fond.setColorAt(1, cuir_fonce);
+        g.setPen(Qt::NoPen);
+        g.setBrush(fond);
+        g.drawRoundedRect(QRectF(QPointF(0, 0), QSizeF(t)), 12, 12);
+        for (const Touche& k : touches) {
+            const QRectF r = k.rect.adjusted(1, 1, -1, -1);
+            g.setBrush(QColor(0, 0, 0, 60));
+            g.drawRoundedRect(r.translated(0, 2), 6, 6);
+            QLinearGradient dessus(0, r.top(), 0, r.bottom());
+            dessus.setColorAt(0, papier);
+            dessus.setColorAt(1, papier_ombre);
+            g.setBrush(dessus);
+            g.drawRoundedRect(r, 6, 6);
+            if (k.face.isEmpty()) continue;
+            QFont f(QStringLiteral("DejaVu Sans"));
+            f.setPixelSize(std::max(6, int(std::min(r.height() / 3.2, r.width() / 4.5))));
+            f.setBold(true);
+            g.setFont(f);
+            g.setPen(encre);
+            g.drawText(r, Qt::AlignCenter | Qt::TextWordWrap, k.face);
+            g.setPen(Qt::NoPen);
+        }
+    });
+}
+
+} // namespace agenda::ui::icc

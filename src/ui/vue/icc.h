@@ -4,7 +4,10 @@
 
 #include <QColor>
 #include <QPixmap>
+#include <QRectF>
 #include <QSize>
+#include <QString>
+#include <vector>
 
 class QImage;
 class QPainter;
@@ -43,6 +46,14 @@ QPixmap sortie(QSize taille);
 
 // The SMS manager's pair: a message kept, a message marked for cancelling.
 QPixmap marque_sms(bool annulee, QSize taille);
+
+// The on-screen keyboard: a cap for each key at its place in pixels, with the face of a key
+// that does something rather than type.
+struct Touche {
+    QRectF rect;
+    QString face;
+};
+QPixmap clavier(QSize taille, const std::vector<Touche>& touches);
 
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.

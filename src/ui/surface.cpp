@@ -68,6 +68,7 @@ std::int32_t Surface::couleur_point(int x, int y) const {
 const QFontMetricsF& Surface::mesures() const {
     if (!mesures_ || police_mesuree_ != police_ || taille_mesuree_ != taille_) {
         mesures_.emplace(police_twips(police_, taille_));
+        largeurs_.clear();
         police_mesuree_ = police_;
         taille_mesuree_ = taille_;
     }
@@ -79,7 +80,11 @@ int Surface::hauteur_texte(const QString&) const {
 }
 
 int Surface::largeur_texte(const QString& texte) const {
-    return int(std::lround(mesures().horizontalAdvance(texte)));
+    const QFontMetricsF& m = mesures();
+    auto it = largeurs_.find(texte);
+    if (it == largeurs_.end())
+        it = largeurs_.insert(texte, int(std::lround(m.horizontalAdvance(texte))));
+    return *it;
 }
 
 } // namespace agenda::ui

@@ -7,6 +7,7 @@
 #include <optional>
 #include <QColor>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QString>
 #include <vector>
 
@@ -77,6 +78,7 @@ private:
     // character by character is measured at each character.
     const QFontMetricsF& mesures() const;
     mutable std::optional<QFontMetricsF> mesures_;
+    mutable QHash<QString, int> largeurs_; // of the texts measured in that font
     mutable QString police_mesuree_;
     mutable double taille_mesuree_ = 0;
 

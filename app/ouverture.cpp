@@ -8,6 +8,7 @@
 #include "input/vue/mini_97_vue.h"
 #include "planning/vue/saisiuti_vue.h"
 #include "planning/vue/torva11_vue.h"
+#include "search/vue/torvar_vue.h"
 #include "sms/vue/verifsmss_vue.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
@@ -32,6 +33,7 @@ void enregistre_fenetres() {
     ui::enregistre_vue<Torva11, Torva11Vue>();
     ui::enregistre_vue<Saisiuti, SaisiutiVue>();
     ui::enregistre_vue<Verifsmss, VerifsmssVue>();
+    ui::enregistre_vue<Torvar, TorvarVue>();
 }
 
 } // namespace

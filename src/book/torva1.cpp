@@ -12,6 +12,7 @@
 #include "editor/inter.h"
 #include "planning/saisiuti.h"
 #include "planning/torva11.h"
+#include "search/torvar.h"
 #include "sms/sms.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
@@ -176,16 +177,21 @@ void Torva1::sel_onglet(int n) {
         etape([&] { affiche_rv(); });
         break;
     case 3: {
-        // The planning may change the date, the collaborator and the open file: the whole
-        // load runs again once it has returned.
+        // The planning and the search may change the date, the collaborator and the open
+        // file: the whole load runs again once they have returned.
         Torva11 planning;
         etape([&] { ui::montre_modal(planning); });
         Timer1.start(250);
         break;
     }
+    case 4: {
+        Torvar recherche;
+        etape([&] { ui::montre_modal(recherche); });
+        Timer1.start(250);
+        break;
+    }
     default:
-        // The week, year and search views are not in the book yet: their page slot shows
-        // empty.
+        // The week and year views are not in the book yet: their page slot shows empty.
         break;
     }
 }

@@ -29,9 +29,13 @@ QString nom_fichier_notes(std::int16_t collab) {
 }
 
 void ouvre_rv() {
+    ouvre_rv_de(etat.num_collab, etat.mode_salle);
+}
+
+void ouvre_rv_de(std::int16_t collab, bool salle) {
     auto& f = canal_fichier(canal::rv);
     f.ferme();
-    f.ouvre(nom_fichier_rv(etat.num_collab, etat.mode_salle), RecRv::longueur);
+    f.ouvre(nom_fichier_rv(collab, salle), RecRv::longueur);
 }
 
 void ouvre_notes() {

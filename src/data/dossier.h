@@ -12,6 +12,8 @@ QString nom_fichier_notes(std::int16_t collab);          // tf_a0007.wdo
 
 // The book's appointment file of num_collab on channel 15; stays open.
 void ouvre_rv();
+// Another collaborator's file on the same channel, num_collab unchanged.
+void ouvre_rv_de(std::int16_t collab, bool salle = false);
 // The note file of num_collab on channel 16, opened for one note operation.
 void ouvre_notes();
 // The catalogue on channel 104; stays open.

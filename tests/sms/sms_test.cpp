@@ -24,7 +24,8 @@ struct Envoi {
     explicit Envoi(const QByteArray& r)
         : date(r.mid(0, 12)), tel(r.mid(19, 15)), ref(r.mid(49, 20)), minute(r.mid(69, 5)),
           affiche(r.mid(79, 18)), message(r.mid(99, 150).trimmed()),
-          etat(std::int32_t(quint8(r[506]) | quint8(r[507]) << 8)), annule(r.startsWith("**")) {}
+          etat(r.size() < 508 ? 0 : std::int32_t(quint8(r[506]) | quint8(r[507]) << 8)),
+          annule(r.startsWith("**")) {}
 };
 
 class Sms : public agenda::test::Livre {

@@ -594,3 +594,19 @@ QPixmap clavier(QSize t, const std::vector<Touche>& touches) {
 }
 
 } // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap interrupteur(bool oui, QSize t) {
+    return dessin(QStringLiteral("interrupteur%1").arg(oui), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height(), r = h * 0.32;
+        const QRectF rail(w * 0.08, h / 2 - r, w * 0.84, 2 * r);
+        g.setPen(QPen(encre, std::max(1.0, w / 40)));
+        g.setBrush(oui ? QColor(0x2e, 0x7d, 0x32) : papier_ombre);
+        g.drawRoundedRect(rail, r, r);
+        g.setBrush(papier);
+        g.drawEllipse(QPointF(oui ? rail.right() - r : rail.left() + r, h / 2), r * 0.85, r * 0.85);
+    });
+}
+
+} // namespace agenda::ui::icc

@@ -55,6 +55,9 @@ struct Touche {
 };
 QPixmap clavier(QSize taille, const std::vector<Touche>& touches);
 
+// A switch, on or off.
+QPixmap interrupteur(bool oui, QSize taille);
+
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.
 void grain(QPainter& g, QSize taille, int densite, QColor c);

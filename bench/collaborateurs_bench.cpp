@@ -1,13 +1,14 @@
-// The planning's load against a plain read of the same files, in the same run: it scans every
-// collaborator's whole file at each load, by design, so a load should cost the reading of the
-// bytes. And the drawing of a full day of 20 columns, as the screen paints it, against a
-// frame's time.
+// The views over every collaborator's file, against a plain read of the same 20 files in the same
+// run: the planning's load and the search both scan the whole files, by design, so they should
+// cost the reading of the bytes. And the painting of a full day of 20 columns against a frame's
+// time.
 
 #include "banc.h"
 #include "data/fichier_records.h"
 #include "data/texte.h"
 #include "generateur.h"
 #include "planning/torva11.h"
+#include "search/torvar.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/widgets.h"
 
@@ -66,6 +67,17 @@ void BM_scans_seuls(benchmark::State& state) {
 }
 BENCHMARK(BM_scans_seuls);
 
+// A word that no appointment holds: every record's text is looked at.
+void BM_recherche_mot(benchmark::State& state) {
+    critere_rv = QStringLiteral("dupont");
+    for (auto _ : state) {
+        Torvar t;
+        t.recherche_rv();
+        benchmark::DoNotOptimize(t.List1.size());
+    }
+}
+BENCHMARK(BM_recherche_mot);
+
 // The surface of a loaded planning painted whole at the book's size on this screen.
 void BM_peinture_planning(benchmark::State& state) {
     Torva11 p;
@@ -95,6 +107,8 @@ int main(int argc, char** argv) {
         " (" + std::to_string(collabs) + " × " + std::to_string(records) + " records)";
     bench::imprime_ratio(rapport, "BM_chargement_planning", "BM_lecture_20_fichiers",
                          "chargement du planning / lecture séquentielle" + fichiers);
+    bench::imprime_ratio(rapport, "BM_recherche_mot", "BM_lecture_20_fichiers",
+                         "recherche d'un mot / lecture séquentielle" + fichiers);
     bench::imprime_ratio(rapport, "BM_scans_seuls", "BM_lecture_20_fichiers",
                          "les seules lectures du jour / lecture séquentielle" + fichiers);
     if (const double peinture = rapport.temps("BM_peinture_planning"); peinture > 0)

@@ -1,0 +1,253 @@
+#include "search/torvar.h"
+
+#include "clients/lit_cli.h"
+#include "data/dossier.h"
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/octets.h"
+#include "data/record.h"
+#include "data/rendez_vous.h"
+#include "data/texte.h"
+#include "editor/detarv.h"
+#include "input/mini_97.h"
+#include "ui/dates.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+namespace agenda {
+
+namespace {
+
+// A word sought in a text field's bytes, as the lower-cased text would hold it, without decoding
+// each record: the scan meets every record of twenty files.
+class Mot {
+public:
+    // nullopt: a word that no CP1252 text can hold, so that nothing matches.
+    static std::optional<Mot> de(const QString& minuscules) {
+        Mot m;
+        for (const QChar c : minuscules) {
+            const std::uint8_t o = octets::octet_cp1252(c);
+            if (octets::car_cp1252(o) != c) return std::nullopt;
+            m.octets_.push_back(o);
+        }
+        // Upper and lower case differ by 0x20 in ASCII and Latin-1, but not for š, œ, ž, ÿ:
+        // with those at the start the quick test could miss, and is not used.
+        for (std::size_t i = 0; i < std::min<std::size_t>(2, m.octets_.size()); ++i)
+            m.rapide_ &= m.octets_[i] < 0x80 || m.octets_[i] >= 0xC0;
+        if (!m.octets_.empty()) {
+            m.decalage_ = m.octets_.size() > 1 ? 1 : 0;
+            m.va_ = partout(std::uint8_t(m.octets_[0] | 0x20));
+            m.vb_ = partout(m.decalage_ ? std::uint8_t(m.octets_[1] | 0x20) : std::uint8_t(0));
+        }
+        return m;
+    }
+
+    bool dans(std::span<const std::uint8_t> texte) const {
+        const std::size_t n = octets_.size(), t = texte.size();
+        if (n == 0) return true;
+        if (n > t) return false;
+        if (rapide_ && !peut_etre(texte)) return false;
+        std::array<std::uint8_t, 512> bas;
+        for (std::size_t i = 0; i < t; ++i)
+            bas[i] = minuscule()[texte[i]];
+        return std::search(bas.begin(), bas.begin() + std::ptrdiff_t(t), octets_.begin(),
+                           octets_.end()) != bas.begin() + std::ptrdiff_t(t);
+    }
+
+private:
+    // Whether the first two bytes of the word (or the one) stand somewhere, in either case, give
+    // or take a few symbols: sixteen places at a time, which turns most records away at the
+    // speed the bytes come from the cache.
+    bool peut_etre(std::span<const std::uint8_t> texte) const {
+        constexpr std::size_t l = sizeof(V);
+        const std::size_t n = texte.size();
+        V vu{};
+        std::size_t i = 0;
+        for (; i + l + decalage_ <= n; i += l) {
+            V x, y;
+            std::memcpy(&x, texte.data() + i, l);
+            std::memcpy(&y, texte.data() + i + decalage_, l);
+            const V premier = V((x | casse_) == va_);
+            vu |= decalage_ ? V(premier & V((y | casse_) == vb_)) : premier;
+            // A text is mostly its padding: where only blanks are left, there is nothing to find
+            // (the word, trimmed, does not start with one).
+            if (tout(V(x == blanc_), ~std::uint64_t(0)) &&
+                std::memcmp(texte.data() + i, blancs().data(), n - i) == 0)
+                return !tout(vu, 0);
+        }
+        if (!tout(vu, 0)) return true;
+        const std::uint8_t a = va_[0], b = vb_[0];
+        for (; i + decalage_ < n; ++i)
+            if ((texte[i] | 0x20) == a && (!decalage_ || (texte[i + 1] | 0x20) == b)) return true;
+        return false;
+    }
+    using V = std::uint8_t __attribute__((vector_size(16)));
+    static V partout(std::uint8_t o) {
+        V v;
+        std::memset(&v, o, sizeof v);
+        return v;
+    }
+    static bool tout(V v, std::uint64_t attendu) {
+        std::array<std::uint64_t, sizeof(V) / 8> parts;
+        std::memcpy(parts.data(), &v, sizeof parts);
+        return std::all_of(parts.begin(), parts.end(),
+                           [&](std::uint64_t p) { return p == attendu; });
+    }
+    static const std::array<std::uint8_t, 512>& blancs() {
+        static const auto b = [] {
+            std::array<std::uint8_t, 512> t;
+            t.fill(' ');
+            return t;
+        }();
+        return b;
+    }
+    // Each byte as its character in lower case would be stored.
+    static const std::array<std::uint8_t, 256>& minuscule() {
+        static const auto table = [] {
+            std::array<std::uint8_t, 256> t{};
+            for (int o = 0; o < 256; ++o) {
+                const QChar bas = octets::car_cp1252(std::uint8_t(o)).toLower();
+                const std::uint8_t b = octets::octet_cp1252(bas);
+                t[std::size_t(o)] = octets::car_cp1252(b) == bas ? b : std::uint8_t(o);
+            }
+            return t;
+        }();
+        return table;
+    }
+
+    std::vector<std::uint8_t> octets_;
+    bool rapide_ = true;
+    std::size_t decalage_ = 0; // 1 when the quick test looks at two bytes
+    V va_{}, vb_{}, casse_ = partout(0x20), blanc_ = partout(' ');
+};
+
+// Each carriage return and the character after it become one blank.
+QString sur_une_ligne(const QString& t) {
+    QString r;
+    r.reserve(t.size());
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        r += t[i] == QLatin1Char('\r') ? QLatin1Char(' ') : t[i];
+        if (t[i] == QLatin1Char('\r')) ++i;
+    }
+    return r;
+}
+
+// "yymmdd" as a day, month and day overflowing into the next as a date's parts do.
+Date jour_de_cle(const QString& cle) {
+    const QDate d(2000 + int(val(cle.left(2))), 1, 1);
+    return ui::date_de(
+        d.addMonths(int(val(cle.mid(2, 2))) - 1).addDays(int(val(cle.mid(4, 2))) - 1));
+}
+
+} // namespace
+
+void Torvar::Form_Load() {
+    vide_tableau();
+    analyse_switch();
+}
+
+void Torvar::vide_tableau() {
+    g1.assign(lignes_dessin, Ligne{});
+}
+
+void Torvar::analyse_switch() {
+    oui[0] = Check1[0] != 0;
+}
+
+void Torvar::recherche_rv() {
+    List1.clear();
+    const QByteArray limite = Check1[0] != 0
+                                  ? octets::vers_cp1252(motif_jour(ui::date_maintenant()))
+                                  : QByteArray("000000");
+    const std::int32_t client = etat.num_client_courant;
+    const std::optional<Mot> mot = Mot::de(critere_rv);
+    for (int c = 1; c <= collaborateurs; ++c) {
+        ouvre_rv_de(std::int16_t(c));
+        FichierRecords& f = canal_fichier(canal::rv);
+        // Taken wide and without the repair: a file past 32,767 records is searched whole.
+        const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
+        parcourt<RecRv>(f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
+            // Voided, or before the limit (a blank key sorts below "0"): bytes compare as the
+            // texts do against a limit of digits.
+            if (std::memcmp(rec.data(), "------", 6) == 0 ||
+                std::memcmp(rec.data(), limite.constData(), 6) < 0)
+                return true;
+            if (client != 0 && octets::i32(rec, RecRv::num_client.offset) != client) return true;
+            const auto texte = rec.subspan(std::size_t(RecRv::texte_rv.offset),
+                                           std::size_t(RecRv::texte_rv.largeur));
+            if (!mot || !mot->dans(texte)) return true;
+            const QString debut = RecRv::cle_rv.dans(rec).left(13) + QLatin1Char('|') +
+                                  motif_zeros(c, 2) + QLatin1Char('|') + motif_zeros(n, 6) +
+                                  QLatin1Char('|');
+            List1.push_back(cadre(debut, 99) +
+                            sur_une_ligne(RecRv::texte_rv.sans_blancs_dans(rec)));
+            return true;
+        });
+    }
+    // As a sorted list keeps its lines: by text, equal lines in their order of arrival.
+    std::stable_sort(List1.begin(), List1.end(), [](const QString& a, const QString& b) {
+        return a.compare(b, Qt::CaseInsensitive) < 0;
+    });
+    affiche_tableau();
+}
+
+void Torvar::affiche_tableau() {
+    vide_tableau();
+    // Beyond the 200 rows of the design, the table grows rather than ending the program.
+    if (List1.size() > g1.size()) g1.resize(List1.size());
+    for (std::size_t i = 0; i < List1.size(); ++i) {
+        const QString& l = List1[i];
+        const int collab = int(val(mid1(l, 15, 2)));
+        g1[i] = {mid1(l, 5, 2) + QLatin1Char('-') + mid1(l, 3, 2) + QStringLiteral("-20") +
+                     mid1(l, 1, 2),
+                 mid1(l, 8, 5), QLatin1Char(' ') + mid1(l, 100),
+                 collab >= 1 && collab <= 20 ? mid1(etat.noms_par_num[std::size_t(collab)], 6)
+                                             : QString(),
+                 l.left(100)};
+    }
+}
+
+void Torvar::btc_rech_Click() {
+    const QString mot = sans_blancs(Text1);
+    if (mot.isEmpty()) {
+        demande(QStringLiteral("Vous devez préciser un crière de recherche d'au poins trois "
+                               "lettres !"),
+                0);
+        return;
+    }
+    etat.num_client_courant = 0;
+    critere_rv = mot.toLower();
+    recherche_rv();
+}
+
+void Torvar::btcli_Click() {
+    etat.num_client_courant = 0;
+    LitCli liste;
+    ui::montre_modal(liste);
+    etat.num_client_courant = en_i16(val(mid1(etat.texte_retour, 82, 15)));
+    recherche_rv();
+}
+
+void Torvar::oui_Click(int index) {
+    if (index != 0) return;
+    Check1[0] = Check1[0] != 0 ? 0 : 1;
+    analyse_switch();
+}
+
+void Torvar::g1_DblClick(int ligne) {
+    if (ligne < 1 || ligne > int(g1.size())) return;
+    const QString cle = g1[std::size_t(ligne - 1)].cle;
+    if (sans_blancs(cle).isEmpty()) return;
+    ouvre_rv_de(en_i16(val(mid1(cle, 15, 2))));
+    etat.num_rv = en_i32(val(mid1(cle, 18, 6)));
+    etat.date_courante = jour_de_cle(cle);
+    Detarv editeur;
+    ui::montre_modal(editeur);
+    critere_rv = sans_blancs(Text1).toLower();
+    recherche_rv();
+}
+
+} // namespace agenda

@@ -45,3 +45,13 @@ termine() {
     fini() { ! kill -0 $pid 2>/dev/null; }
     jusqua fini && wait $pid || echec "Escape n'a pas fermé Agenda, ou pas proprement"
 }
+
+# "Effacer le rendez-vous" in the editor on top, and yes; $1 windows stay under it.
+efface() {
+    read -r EX EY < <(dessus)
+    clic $EX $EY 12450 7125
+    attend $(($1 + 2)) || echec "la question ne s'est pas posée"
+    read -r QX QY < <(dessus)
+    clic $QX $QY 2350 2010
+    attend "$1" || echec "l'éditeur ne s'est pas fermé"
+}

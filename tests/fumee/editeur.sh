@@ -79,12 +79,7 @@ valide
 jusqua est client_du_rv "$nouveau" || echec "ZOLA introuvable dans la liste"
 
 ouvre
-read -r EX EY < <(dessus)
-clic $EX $EY 12450 7125 # Effacer le rendez-vous
-attend 2 || echec "la question ne s'est pas posée"
-read -r QX QY < <(dessus)
-clic $QX $QY 2350 2010 # yes
-attend 0 || echec "l'éditeur ne s'est pas fermé"
+efface 0
 jusqua est cle "----------          " || echec "pas effacé : $(cle)"
 est "taille $rv" $((avant + 512)) || echec "la longueur du fichier a changé"
 import -window root "$SORTIE/efface.png"

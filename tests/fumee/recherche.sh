@@ -28,12 +28,7 @@ existe() { [ -e tf_r0020.wdo ]; }
 jusqua existe || echec "la recherche n'a pas tourné"
 clic $LX $LY 6100 2290 && xdotool click 1 # a double click on the first row
 attend 2 || echec "le rendez-vous ne s'est pas ouvert"
-read -r EX EY < <(dessus)
-clic $EX $EY 12450 7125 # Effacer le rendez-vous
-attend 3 || echec "la question ne s'est pas posée"
-read -r QX QY < <(dessus)
-clic $QX $QY 2350 2010 # yes
-attend 1 || echec "l'éditeur ne s'est pas fermé"
+efface 1
 jusqua est cle "----------" || echec "ce n'est pas le premier rendez-vous qui a été ouvert : $(cle)"
 import -window root "$SORTIE/recherche.png"
 clic $LX $LY 14180 10350 # Fermer

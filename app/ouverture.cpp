@@ -9,12 +9,15 @@
 #include "planning/vue/saisiuti_vue.h"
 #include "planning/vue/torva11_vue.h"
 #include "search/vue/torvar_vue.h"
+#include "settings/vue/toroutils_vue.h"
 #include "sms/vue/verifsmss_vue.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 #include "ui/vue/echelle.h"
 
 #include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -34,6 +37,7 @@ void enregistre_fenetres() {
     ui::enregistre_vue<Saisiuti, SaisiutiVue>();
     ui::enregistre_vue<Verifsmss, VerifsmssVue>();
     ui::enregistre_vue<Torvar, TorvarVue>();
+    ui::enregistre_vue<Toroutils, ToroutilsVue>();
 }
 
 } // namespace
@@ -47,6 +51,10 @@ std::unique_ptr<Programme> ouvre_programme() {
             QMessageBox::critical(nullptr, QStringLiteral("Agenda"), message);
         });
     enregistre_fenetres();
+    ui::fixe_saisie([](const QString& titre, const QString& invite, const QString& defaut) {
+        return QInputDialog::getText(QApplication::activeWindow(), titre, invite, QLineEdit::Normal,
+                                     defaut);
+    });
 
     auto p = std::make_unique<Programme>();
     protege([&] { p->livre.charge(); });

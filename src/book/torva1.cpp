@@ -13,6 +13,7 @@
 #include "planning/saisiuti.h"
 #include "planning/torva11.h"
 #include "search/torvar.h"
+#include "settings/toroutils.h"
 #include "sms/sms.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
@@ -203,6 +204,14 @@ void Torva1::Label7_Click() {
     if (sans_blancs(ligne).isEmpty()) return;
     ecrit_inter(QStringLiteral("TORVA:NUMUSER"),
                 motif_zeros(val(ligne), 4) + QLatin1Char(' ') + sans_blancs(mid1(ligne, 5)));
+    charge();
+}
+
+void Torva1::bt_out_Click() {
+    emit cache(true);
+    Toroutils reglages;
+    ui::montre_modal(reglages);
+    emit cache(false);
     charge();
 }
 

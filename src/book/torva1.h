@@ -74,6 +74,8 @@ public:
     void Picture3_Click(); // the day after
     // A click on the book's title: another collaborator's book, on the same date.
     void Label7_Click();
+    // The settings take the book's place, and give it back reloaded.
+    void bt_out_Click();
     // A click in the ruling opens a new appointment at that hour; on a label, that appointment.
     // Coordinates are twips of the page.
     void pageg_MouseDown(int x, int y);
@@ -93,7 +95,7 @@ public:
         Label1_rect{800, 2700, 2700, 450}, calend_rect{3500, 250, 2900, 3100};
     static constexpr ui::RectTwips Label7_rect{800, 250, 5400, 600};
     static constexpr ui::RectTwips Picture2_rect{800, 10300, 600, 500},
-        Picture3_rect{5600, 10300, 600, 500};
+        Picture3_rect{5600, 10300, 600, 500}, bt_out_rect{800, 10300, 500, 500};
 
     // What the window shows.
     std::array<std::int16_t, 51> table_pages{};
@@ -111,6 +113,8 @@ public:
     QTimer Timer1, Timer2, Timer3;
 
 signals:
+    // The book leaves the screen to the settings, and comes back.
+    void cache(bool oui);
     // Timer3: the window comes to the front.
     void au_premier_plan();
     // The banner sepaffic is loaded, hidden, once for the life of the program.

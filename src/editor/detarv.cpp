@@ -114,7 +114,7 @@ QStringList Detarv::minutes() {
 }
 
 void Detarv::Form_Load() {
-    etape([&] { dca_jour_pla = lit_valeur_param(QStringLiteral("DCA:JOUR:PLA")); });
+    etape([&] { jours_sms = lit_valeur_param(QStringLiteral("DCA:JOUR:PLA")); });
     etape([&] { lit_horloge(); });
     etape([&] { charge_horloge(); });
     etape([&] { ref_sms_chargee.clear(); });
@@ -216,7 +216,7 @@ void Detarv::sauve_rv() {
     ecrit_record(f, std::int64_t(etat.num_rv) + 1, r);
     // The reminder, and the client's waiting reminders at once, where a duplicate shows.
     if (!etat.sms_actif || ref_sms_nouvelle.isEmpty()) return;
-    if (queue_rappel({Text2, ref_sms_nouvelle, etat.date_courante, Combo1, Combo2}, dca_jour_pla)) {
+    if (queue_rappel({Text2, ref_sms_nouvelle, etat.date_courante, Combo1, Combo2}, jours_sms)) {
         Verifsmss gestionnaire;
         ui::montre_modal(gestionnaire);
     }

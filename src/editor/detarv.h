@@ -115,7 +115,6 @@ public:
     QString Text2;                                     // the SMS number
     QString Label8;                                    // the SMS reference as loaded
     bool Image2_visible = false;
-    QString dca_jour_pla; // the SMS send day's shift by weekday, read at the opening
 
     struct LigneService {
         QString nom, minutes, index; // columns 0, 1 and 4

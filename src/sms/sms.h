@@ -58,6 +58,8 @@ inline constexpr int init = 1, reglage_module = 5, rappel = 1100, modele = 1101,
 // The reference built by the last save (empty without an SMS number), and the one of the
 // appointment in the editor (20 blanks for a blank field; empty for a new appointment).
 inline QString ref_sms_nouvelle, ref_sms_chargee;
+// "DCA:JOUR:PLA": the send day's shift by weekday, as the editor and the settings last read it.
+inline QString jours_sms;
 
 // Opens both files, initialising the settings at first use, and sets sms_actif. Any failure
 // (the folder missing, typically) leaves sms_actif false, silently.

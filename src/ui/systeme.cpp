@@ -4,8 +4,10 @@
 #include <cstdlib>
 #include <QCoreApplication>
 #include <QCursor>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QUrl>
 #include <vector>
 
 namespace agenda::ui {
@@ -58,6 +60,26 @@ bool lance_commande(const QString& ligne) {
 
 void fixe_lanceur(std::function<bool(const QString&)> l) {
     lanceur() = std::move(l);
+}
+
+bool ouvre_adresse(const QString& adresse) {
+    if (lanceur()) return lanceur()(adresse);
+    return QDesktopServices::openUrl(QUrl(adresse));
+}
+
+namespace {
+std::function<QString(const QString&, const QString&, const QString&)>& boite_de_saisie() {
+    static std::function<QString(const QString&, const QString&, const QString&)> b;
+    return b;
+}
+} // namespace
+
+QString saisie(const QString& titre, const QString& invite, const QString& defaut) {
+    return boite_de_saisie() ? boite_de_saisie()(titre, invite, defaut) : defaut;
+}
+
+void fixe_saisie(std::function<QString(const QString&, const QString&, const QString&)> boite) {
+    boite_de_saisie() = std::move(boite);
 }
 
 } // namespace agenda::ui

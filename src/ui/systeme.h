@@ -27,6 +27,15 @@ bool lance_commande(const QString& ligne);
 // Replaces the launcher (tests); an empty function gives the real one back.
 void fixe_lanceur(std::function<bool(const QString&)> lanceur);
 
+// Opens an address in the desktop's browser, without waiting; tests see it through the
+// launcher above.
+bool ouvre_adresse(const QString& adresse);
+
+// The system's input box: a title, a prompt and a default; the empty text when cancelled.
+QString saisie(const QString& titre, const QString& invite, const QString& defaut);
+// Set by the program where it has widgets, and by tests.
+void fixe_saisie(std::function<QString(const QString&, const QString&, const QString&)> boite);
+
 // Tells the operator why the program ends: on the error output, and in a window where the
 // program has set one up.
 void message_fatal(const QString& message);

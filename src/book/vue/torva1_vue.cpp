@@ -103,6 +103,17 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     picture3_ = ui::fleche_jour(*paged_, Torva1::Picture3_rect, false,
                                 [this] { appelle([&] { l_.Picture3_Click(); }); });
 
+    auto* bt_out = new QToolButton(paged_);
+    ui::place(*bt_out, Torva1::bt_out_rect);
+    bt_out->setAutoRaise(true);
+    bt_out->setCursor(Qt::PointingHandCursor);
+    bt_out->setIcon(ui::icc::reglages(bt_out->size()));
+    bt_out->setIconSize(bt_out->size());
+    bt_out->setToolTip(QStringLiteral("Paramétrage de l'Agenda"));
+    connect(bt_out, &QToolButton::clicked, this,
+            [this] { apres_le_clic([this] { l_.bt_out_Click(); }); });
+    connect(&l_, &Torva1::cache, this, [this](bool oui) { setVisible(!oui); });
+
     vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
 
     connect(&l_, &Torva1::charge_banniere, this,

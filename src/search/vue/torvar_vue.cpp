@@ -16,14 +16,6 @@ namespace agenda {
 
 namespace {
 
-QLabel* texte(QWidget& parent, const ui::RectTwips& r, const QString& t, double points, bool gras) {
-    auto* l = new QLabel(t, &parent);
-    ui::place(*l, r);
-    l->setWordWrap(true);
-    l->setFont(ui::police(QStringLiteral("DejaVu Serif"), points, gras));
-    return l;
-}
-
 QPushButton* bouton(QWidget& parent, const ui::RectTwips& r, const QString& t) {
     auto* b = new QPushButton(t, &parent);
     ui::place(*b, r);
@@ -37,7 +29,8 @@ QPushButton* bouton(QWidget& parent, const ui::RectTwips& r, const QString& t) {
 TorvarVue::TorvarVue(Torvar& l) : VueModale(l, ui::largeur_livre, ui::hauteur_livre), l_(l) {
     setWindowTitle(QStringLiteral("Recherche de rendez-vous"));
     ui::taille_fenetre(*this);
-    texte(*this, Torvar::titre_rect, QStringLiteral("Recherche de rendez-vous"), 18, true);
+    ui::libelle(*this, Torvar::titre_rect, QStringLiteral("Recherche de rendez-vous"),
+                ui::police(QStringLiteral("DejaVu Serif"), 18, true));
     text1_ = new QLineEdit(this);
     ui::place(*text1_, Torvar::Text1_rect);
     text1_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 13));
@@ -59,8 +52,9 @@ TorvarVue::TorvarVue(Torvar& l) : VueModale(l, ui::largeur_livre, ui::hauteur_li
     oui0_->setIconSize(oui0_->size());
     oui0_->setCursor(Qt::PointingHandCursor);
     connect(oui0_, &QToolButton::clicked, this, [this] { appelle([&] { l_.oui_Click(0); }); });
-    texte(*this, Torvar::Check1_libelle_rect,
-          QStringLiteral("Cache les rendez- vous dont la date est dépassée"), 10, false);
+    ui::libelle(*this, Torvar::Check1_libelle_rect,
+                QStringLiteral("Cache les rendez- vous dont la date est dépassée"),
+                ui::police(QStringLiteral("DejaVu Serif"), 10, false));
 
     g1_ = new QTableWidget(0, 4, this);
     ui::place(*g1_, Torvar::g1_rect);
@@ -80,10 +74,10 @@ TorvarVue::TorvarVue(Torvar& l) : VueModale(l, ui::largeur_livre, ui::hauteur_li
         apres_le_clic([this, ligne] { l_.g1_DblClick(ligne + 1); });
     });
 
-    texte(*this, Torvar::note_rect,
-          QStringLiteral("Aprés avoir effectué votre recherche, cliquez deux fois sur un "
-                         "rendez-vous affiché pour le modifier ou le supprimer"),
-          10, false);
+    ui::libelle(*this, Torvar::note_rect,
+                QStringLiteral("Aprés avoir effectué votre recherche, cliquez deux fois sur un "
+                               "rendez-vous affiché pour le modifier ou le supprimer"),
+                ui::police(QStringLiteral("DejaVu Serif"), 10, false));
     connect(bouton(*this, Torvar::btc_fin_rect, QStringLiteral("Fermer")), &QPushButton::clicked,
             this, [this] { appelle([&] { l_.btc_fin_Click(); }); });
     montre();

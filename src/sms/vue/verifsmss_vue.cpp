@@ -12,26 +12,20 @@
 
 namespace agenda {
 
-namespace {
-
-QLabel* texte(QWidget& parent, const ui::RectTwips& r, const QString& t, double points, bool gras) {
-    auto* l = new QLabel(t, &parent);
-    ui::place(*l, r);
-    l->setFont(ui::police(QStringLiteral("DejaVu Serif"), points, gras));
-    return l;
-}
-
-} // namespace
+namespace {} // namespace
 
 VerifsmssVue::VerifsmssVue(Verifsmss& l)
     : VueModale(l, ui::largeur_livre, ui::hauteur_livre), l_(l) {
     setWindowTitle(QStringLiteral("Gestionnaire de SMS"));
     ui::taille_fenetre(*this);
-    texte(*this, Verifsmss::titre_rect, QStringLiteral("Messages en attente d'envoi"), 18, true);
-    texte(*this, Verifsmss::Label1_rect,
-          QStringLiteral("Cliquez deux fois pour modifier le message "), 10, false);
-    texte(*this, Verifsmss::Label2_rect,
-          QStringLiteral("Cliquez deux fois pour annuler le message"), 10, false);
+    ui::libelle(*this, Verifsmss::titre_rect, QStringLiteral("Messages en attente d'envoi"),
+                ui::police(QStringLiteral("DejaVu Serif"), 18, true));
+    ui::libelle(*this, Verifsmss::Label1_rect,
+                QStringLiteral("Cliquez deux fois pour modifier le message "),
+                ui::police(QStringLiteral("DejaVu Serif"), 10, false));
+    ui::libelle(*this, Verifsmss::Label2_rect,
+                QStringLiteral("Cliquez deux fois pour annuler le message"),
+                ui::police(QStringLiteral("DejaVu Serif"), 10, false));
 
     g1_ = new QTableWidget(0, 4, this);
     ui::place(*g1_, Verifsmss::g1_rect);

@@ -610,3 +610,45 @@ QPixmap interrupteur(bool oui, QSize t) {
 }
 
 } // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap internet(QSize t) {
+    return dessin(QStringLiteral("internet"), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height();
+        const QRectF globe(w * 0.12, h * 0.12, w * 0.76, h * 0.76);
+        g.setPen(QPen(encre, std::max(1.0, w / 28)));
+        g.setBrush(QColor(0xc0, 0xe0, 0xff));
+        g.drawEllipse(globe);
+        g.setBrush(Qt::NoBrush);
+        g.drawEllipse(globe.adjusted(w * 0.2, 0, -w * 0.2, 0));
+        g.drawLine(QPointF(globe.left(), h / 2), QPointF(globe.right(), h / 2));
+        g.drawLine(QPointF(w / 2, globe.top()), QPointF(w / 2, globe.bottom()));
+    });
+}
+
+} // namespace agenda::ui::icc
+
+namespace agenda::ui::icc {
+
+QPixmap reglages(QSize t) {
+    return dessin(QStringLiteral("reglages"), t, [&](QPainter& g) {
+        const qreal w = t.width(), h = t.height(), r = std::min(w, h) * 0.36;
+        const QPointF c(w / 2, h / 2);
+        // A gilt cog.
+        g.setPen(Qt::NoPen);
+        g.setBrush(or_vieux);
+        for (int i = 0; i < 8; ++i) {
+            g.save();
+            g.translate(c);
+            g.rotate(i * 45);
+            g.drawRect(QRectF(-r * 0.22, -r * 1.25, r * 0.44, r * 0.5));
+            g.restore();
+        }
+        g.drawEllipse(c, r, r);
+        g.setBrush(cuir_fonce);
+        g.drawEllipse(c, r * 0.42, r * 0.42);
+    });
+}
+
+} // namespace agenda::ui::icc

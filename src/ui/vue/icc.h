@@ -55,6 +55,12 @@ struct Touche {
 };
 QPixmap clavier(QSize taille, const std::vector<Touche>& touches);
 
+// The book's way to its settings: a cog.
+QPixmap reglages(QSize taille);
+
+// A globe: a page on the Internet.
+QPixmap internet(QSize taille);
+
 // A switch, on or off.
 QPixmap interrupteur(bool oui, QSize taille);
 

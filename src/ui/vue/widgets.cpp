@@ -118,6 +118,14 @@ void pose_cadre(QWidget& fenetre, int coin) {
 
 } // namespace
 
+QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police) {
+    auto* l = new QLabel(texte, &parent);
+    place(*l, r);
+    l->setWordWrap(true);
+    l->setFont(police);
+    return l;
+}
+
 void centre_fenetre(QWidget& w) {
     const QSize e = ecran_twips(w);
     pose(w, centre(e.width(), e.height(), twips(w.width()), twips(w.height())));

@@ -2,6 +2,7 @@
 // The widgets the windows are built of, at the book's scale, and the routines that place
 // windows on the screen.
 
+#include "ui/geometrie.h"
 #include "ui/surface.h"
 
 #include <functional>
@@ -9,6 +10,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+class QFont;
+class QLabel;
 class QPainter;
 
 namespace agenda::ui {
@@ -40,6 +43,9 @@ private:
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QPixmap rendu_;                  // the background with the drawing on it
 };
+
+// A caption at a rectangle in twips, wrapped to its width.
+QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police);
 
 // Left and top that centre a window on the screen.
 void centre_fenetre(QWidget& fenetre);

@@ -14,7 +14,8 @@ for r in range(1, len(octets) // 512):
     if rec[510:] != b'\r\n' or rec[:20].strip() and not rec.startswith(b'040303:09H00:10H00'):
         fautes.append(f"enregistrement {r + 1} : {rec[:20]!r}")
     textes.add(rec[20:422].decode('latin-1').strip())
-rendues = open(sys.argv[2]).read().split() if len(sys.argv) > 2 else []
+# Only whole lines: a kill can leave the last one cut, a save whose text is not known.
+rendues = open(sys.argv[2]).read().split('\n')[:-1] if len(sys.argv) > 2 else []
 fautes += [f"{t} a rendu la main mais n'est pas dans le fichier" for t in rendues if t not in textes]
 textes.discard('')
 print(max(len(octets) // 512 - 1, 0), len(textes))

@@ -16,6 +16,12 @@
 #include "data/texte.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
+#include "input/mini_97.h"
+#include "planning/torva11.h"
+#include "search/torvar.h"
+#include "settings/toroutils.h"
+#include "sms/sms.h"
+#include "sms/verifsmss.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
 #include "ui/systeme.h"
@@ -87,6 +93,18 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     cherche_note(QStringLiteral("JO:040303"));
     alloue_numero(canal_fichier(canal::rv));
     charge_journee();
+    // The planning's column of collaborator 0, and the search over the same bytes.
+    etat.nb_collab = 1;
+    etat.noms_collab[1] = QStringLiteral("00 : Zero");
+    etat.heure_debut = 7, etat.heure_fin = 19;
+    Torva11 planning;
+    planning.Form_Load();
+    planning.p1_MouseMove(400, 3000);
+    ecrit_fichier("tf_r0001.wdo", octets, n);
+    critere_rv = QStringLiteral("co");
+    Torvar recherche;
+    recherche.recherche_rv();
+    recherche.g1_DblClick(1);
 #elif CIBLE == 3
     ecrit_fichier("WTORV_IA.WDO", octets, n);
     for (const char* cle : {"TORVA:HEURE", "TORVA:HORL", "DCA:JOUR:PLA", "COUL_FERIE", "COUL_RV"})
@@ -128,6 +146,25 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     livre.charge();
     livre.Picture3_Click();
     livre.paged_MouseDown(2000, 2000);
+#elif CIBLE == 7
+    // The SMS module's two files: the manager over the queue, the cancelling scan, a reminder
+    // queued, and the settings read and saved.
+    ecrit_dossier(octets, n, {"vigi/wmesanev.wdo", "vigi/winit20v.wdo"});
+    ouvre_sms();
+    if (!etat.sms_actif) return;
+    ref_sms_nouvelle = QStringLiteral("06112233440403030930");
+    Verifsmss gestionnaire;
+    gestionnaire.Form_Load();
+    gestionnaire.g1_DblClick(1, 0);
+    gestionnaire.g1_DblClick(2, 3);
+    gestionnaire.Image1_Click();
+    annule_sms(ref_sms_nouvelle);
+    queue_rappel({QStringLiteral("0611223344"), ref_sms_nouvelle, etat.date_courante,
+                  QStringLiteral("09"), QStringLiteral("30")},
+                 QStringLiteral(" 1-1 2"));
+    Toroutils reglages;
+    reglages.Form_Load();
+    reglages.command1_Click();
 #endif
 }
 
@@ -143,6 +180,12 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     ui::fixe_horloge([] { return QDateTime(QDate(2004, 3, 3), QTime(10, 0)); });
     // The windows a run may open answer at once, as an operator leaving them.
     ui::scenario<Detarv>([](Detarv& d) { d.bt_valid_Click(); });
+    ui::scenario<Mini97>([](Mini97& b) {
+        b.Text1_Change(QStringLiteral("Nouveau message"));
+        b.btc_Click(2);
+    });
+    if (!QDir().mkpath(QStringLiteral("vigi"))) std::abort();
+    fixe_dossier_sms(QStringLiteral("vigi/"));
     return 0;
 }
 

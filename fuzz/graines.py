@@ -33,6 +33,22 @@ store = param('', '', 2) + param('TORVA:HEURE', '07:12:19:020') + param('TORVA:H
 intlog = inter('#INIT#', '', 2) + inter('TORVA:NUMUSER', '0001 Sophie') + inter('TORVA:RETOUR', 'caisse')
 catalogue = arr('', '', 2) + arr('Coupe femme', '045') + arr('Brushing', '7.5')
 clients = cli('', '', 2) + cli('Clients Divers', '') + cli('DURAND Marie', '01.02.03.04.05')
+def sms(txt, nb=0, etat=0):
+    return texte(txt, 502) + struct.pack('<ii', nb, etat) + (b'\r\n' if txt else b'  ')
+
+def message(envoi, tel, ref, affiche, msg):
+    return (envoi.ljust(19) + tel.ljust(30) + ref.ljust(20) + ' ' * 10 + affiche.ljust(20) +
+            msg)
+
+file_sms = (sms('', 2) + sms(message('200403030900', '0611223344', '06112233440403030930',
+                                     '03/03/2004   09:00', 'Rappel RDV 09:30')) +
+            sms(message('200403030900', '0611223344', '06112233440403030930',
+                        '03/03/2004   09:00', 'Rappel RDV 09:30'), etat=3))
+reglages_sms = [texte('', 20)] * 2001
+reglages_sms[0] = texte('#INIT#03-03-2004', 20)
+reglages_sms[1099] = texte('1   1    30', 20)
+reglages_sms[1100] = texte('RDV #HEU# le #DAT#', 20)
+
 graines = {
     'formats': [rv('040303:09H30:10H15'), store, intlog, catalogue, clients[:1024]],
     'jour': [jour, rv('', dernier=0x20202020) + jour[512:], rv('JO:040303', dernier=1)],
@@ -41,6 +57,7 @@ graines = {
     'clients': [dossier(clients, catalogue, jour)],
     'dossier': [dossier(b'01 : Sophie\r\n02 : Julien\r\n', store, intlog, jour, catalogue,
                         texte('0', 20) * 42)],
+    'sms': [dossier(file_sms, b''.join(reglages_sms)), dossier(file_sms[:512], b'')],
 }
 for cible, entrees in graines.items():
     os.makedirs(os.path.join(sys.argv[1], cible), exist_ok=True)

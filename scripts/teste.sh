@@ -29,7 +29,7 @@ cmake --build "$racine/build-logique" -j "$jobs"
 CC=clang CXX=clang++ cmake -S "$racine" -B "$racine/build-fuzz" -G Ninja \
       -DCMAKE_BUILD_TYPE=RelWithDebInfo -DAGENDA_FUZZ=ON -DAGENDA_SANITIZE=ON \
       -DAGENDA_WIDGETS=OFF -DAGENDA_BENCH=OFF
-cibles=(formats jour param messages clients dossier)
+cibles=(formats jour param messages clients dossier sms)
 cmake --build "$racine/build-fuzz" -j "$jobs" --target "${cibles[@]/#/fuzz_}"
 python3 "$racine/fuzz/graines.py" "$racine/build-fuzz/graines"
 for c in "${cibles[@]}"; do

@@ -9,6 +9,7 @@
 #include "input/mini_97.h"
 #include "sms/sms.h"
 #include "ui/dates.h"
+#include "ui/erreur.h"
 #include "ui/systeme.h"
 
 #include <algorithm>
@@ -81,11 +82,12 @@ void Toroutils::Form_Load() {
 }
 
 void Toroutils::sel_horloge() {
-    const int n = std::clamp(int(val(Label4)), 0, horloges - 1);
+    const int n = int(std::clamp(val(Label4), 0.0, double(horloges - 1)));
     const ui::RectTwips image = Image1_rect(n);
     Shape2_rect = {image.left - 120, image.top - 120, image.width + 240, image.height + 240};
-    aiguilh = en_i32(val(Label5));
-    aiguilm = en_i32(val(Label8));
+    // A colour that is no 32-bit number, written by hand, leaves its hand as it was.
+    etape([&] { aiguilh = en_i32(val(Label5)); });
+    etape([&] { aiguilm = en_i32(val(Label8)); });
 }
 
 void Toroutils::Image1_Click(int index) {

@@ -6,6 +6,8 @@
 #include "ui/dates.h"
 #include "ui/erreur.h"
 
+#include <cmath>
+
 namespace agenda {
 
 namespace {
@@ -89,10 +91,12 @@ void ajoute_sms(const QString& texte) {
 QString message_rappel(const Rappel& r, const QString& reglage, const QString& modele,
                        const QString& decalages) {
     using namespace champ_sms;
-    const int jours_avant = int(val(mid1(reglage, 5, 1)));
-    const int minutes_avant = int(val(mid1(reglage, 10)));
+    // Whole numbers kept as doubles: a slot damaged by hand can hold eleven digits, which no
+    // 32-bit sum may take, and the fields cut what they cannot hold.
+    const double jours_avant = std::trunc(val(mid1(reglage, 5, 1)));
+    const double minutes_avant = std::trunc(val(mid1(reglage, 10)));
     // The minute is brought back once only: far enough before, it stays negative.
-    int heure = int(val(r.heure)), minute = int(val(r.minute)) - minutes_avant;
+    double heure = std::trunc(val(r.heure)), minute = std::trunc(val(r.minute)) - minutes_avant;
     if (minute < 0) {
         minute += 60;
         heure -= 1;

@@ -37,6 +37,14 @@ protected:
     QByteArray emplacements(int premier, int n) const {
         return contenu(QStringLiteral("vigi_sms/winit20v.wdo")).mid((premier - 1) * 20, n * 20);
     }
+    // The value field of the parameter store's record for a key, as the file holds it.
+    QByteArray valeur_brute(const char* cle) const {
+        const QByteArray store = contenu(QStringLiteral("WTORV_IA.WDO"));
+        for (qsizetype r = 0; r + 144 <= store.size(); r += 144)
+            if (store.mid(r + 118, 25) == QByteArray(cle).leftJustified(25))
+                return store.mid(r, 106);
+        return {};
+    }
     QString reponse;
 };
 
@@ -64,12 +72,10 @@ TEST_F(Reglages, CeQueChaqueReglageEnregistre) {
     EXPECT_EQ(r.Label7, QStringLiteral("150"));
     r.command1_Click();
     EXPECT_TRUE(r.fermee());
-    EXPECT_EQ(QStringList({lit_valeur_param(QStringLiteral("TORVA:HEURE")),
-                           lit_valeur_param(QStringLiteral("TORVA:HORL")),
-                           lit_valeur_param(QStringLiteral("DCA:JOUR:PLA"))}),
-              QStringList({QStringLiteral("08:12:18:30"),
-                           QStringLiteral("3    |H|255          +|M|65280"),
-                           QStringLiteral("0 -20 0 0 0 0")}));
+    EXPECT_EQ(valeur_brute("TORVA:HEURE"), QByteArray("08:12:18:30").leftJustified(106));
+    EXPECT_EQ(valeur_brute("TORVA:HORL"),
+              QByteArray("3    |H|255          +|M|65280").leftJustified(106));
+    EXPECT_EQ(valeur_brute("DCA:JOUR:PLA"), QByteArray("0 -20 0 0 0 0").leftJustified(106));
     EXPECT_EQ(emplacements(1100, 1), QByteArray("1   2    45").leftJustified(20));
     EXPECT_EQ(emplacements(1101, 10),
               QByteArray(75, 'a') + QByteArray(75, 'b') + QByteArray(50, ' '));
@@ -89,7 +95,7 @@ TEST_F(Reglages, SansModuleSmsEtSansHeures) {
     // reminder settings keep their defaults and nothing of SMS is written.
     Toroutils r;
     r.Form_Load();
-    EXPECT_EQ(lit_valeur_param(QStringLiteral("TORVA:HEURE")), QStringLiteral("07:12:19:"));
+    EXPECT_EQ(valeur_brute("TORVA:HEURE"), QByteArray("07:12:19:").leftJustified(106));
     EXPECT_EQ(std::tuple(r.Combo2, r.Check1, r.Text1, r.Label5),
               std::tuple(QString(), 0, QStringLiteral("0"), QStringLiteral("128")));
     r.Check1 = 1;

@@ -1,7 +1,11 @@
 #include "banc.h"
 
+#include "data/fichier_records.h"
+
 #include <cstdio>
 #include <fcntl.h>
+#include <QDir>
+#include <QTemporaryDir>
 #include <unistd.h>
 #include <vector>
 
@@ -24,9 +28,22 @@ double Medianes::valeur(const std::map<std::string, double>& m, const std::strin
 }
 
 void imprime_ratio(const Medianes& m, const std::string& mesure, const std::string& reference,
-                   const std::string& libelle) {
+                   const std::string& libelle, const std::string& suffixe) {
     const double a = m.temps(mesure), b = m.temps(reference);
-    if (a > 0 && b > 0) std::printf("%s : %.2f\n", libelle.c_str(), a / b);
+    if (a > 0 && b > 0) std::printf("%s : %.2f%s\n", libelle.c_str(), a / b, suffixe.c_str());
+}
+
+int dans_un_dossier(int argc, char** argv, int repetitions, const std::function<void()>& prepare,
+                    const std::function<void(const Medianes&)>& imprime) {
+    QTemporaryDir dossier;
+    QDir::setCurrent(dossier.path());
+    prepare();
+    Medianes rapport;
+    lance_bancs(argc, argv, repetitions, rapport);
+    ferme_tous_les_canaux();
+    imprime(rapport);
+    benchmark::Shutdown();
+    return 0;
 }
 
 void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {

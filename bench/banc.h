@@ -4,6 +4,7 @@
 
 #include <benchmark/benchmark.h>
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -23,9 +24,14 @@ private:
     std::map<std::string, double> temps_, compteurs_;
 };
 
-// "libelle : ratio" of two medians, when both ran.
+// "libelle : ratio" and the suffix, of two medians, when both ran.
 void imprime_ratio(const Medianes& m, const std::string& mesure, const std::string& reference,
-                   const std::string& libelle);
+                   const std::string& libelle, const std::string& suffixe = {});
+
+// The whole run of a benchmark program, its application made: a temporary working folder that
+// `prepare` fills, the benchmarks, the files closed, then `imprime` with the medians.
+int dans_un_dossier(int argc, char** argv, int repetitions, const std::function<void()>& prepare,
+                    const std::function<void(const Medianes&)>& imprime);
 
 // The plain sequential read that a scan is measured against: the whole file in 128 KiB blocks.
 std::size_t lit_tout(const char* chemin);

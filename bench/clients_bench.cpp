@@ -14,10 +14,8 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <string>
 #include <vector>
 
@@ -92,15 +90,9 @@ BENCHMARK(BM_deux_lettres);
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
-    QTemporaryDir dossier;
-    QDir::setCurrent(dossier.path());
-    genere_clients();
-    bench::Medianes rapport;
-    bench::lance_bancs(argc, argv, 5, rapport);
-    ferme_tous_les_canaux();
-    bench::imprime_ratio(rapport, "BM_ouverture_liste", "BM_lecture_sequentielle",
-                         "ouverture de la liste / lecture séquentielle (" +
-                             std::to_string(clients) + " clients)");
-    benchmark::Shutdown();
-    return 0;
+    return bench::dans_un_dossier(argc, argv, 5, genere_clients, [](const bench::Medianes& r) {
+        bench::imprime_ratio(r, "BM_ouverture_liste", "BM_lecture_sequentielle",
+                             "ouverture de la liste / lecture séquentielle (" +
+                                 std::to_string(clients) + " clients)");
+    });
 }

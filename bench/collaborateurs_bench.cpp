@@ -15,8 +15,6 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace agenda;
 
@@ -97,23 +95,18 @@ BENCHMARK(BM_peinture_planning);
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     ui::fixe_echelle(1280.0 / ui::largeur_livre);
-    QTemporaryDir dossier;
-    QDir::setCurrent(dossier.path());
-    prepare();
-    bench::Medianes rapport;
-    bench::lance_bancs(argc, argv, 5, rapport);
-    ferme_tous_les_canaux();
-    const std::string fichiers =
-        " (" + std::to_string(collabs) + " × " + std::to_string(records) + " records)";
-    bench::imprime_ratio(rapport, "BM_chargement_planning", "BM_lecture_20_fichiers",
-                         "chargement du planning / lecture séquentielle" + fichiers);
-    bench::imprime_ratio(rapport, "BM_recherche_mot", "BM_lecture_20_fichiers",
-                         "recherche d'un mot / lecture séquentielle" + fichiers);
-    bench::imprime_ratio(rapport, "BM_scans_seuls", "BM_lecture_20_fichiers",
-                         "les seules lectures du jour / lecture séquentielle" + fichiers);
-    if (const double peinture = rapport.temps("BM_peinture_planning"); peinture > 0)
-        std::printf("peinture du planning (%d colonnes) : %.2f ms, une image à 60 Hz : 16.67 ms\n",
-                    collabs, peinture / 1e6);
-    benchmark::Shutdown();
-    return 0;
+    return bench::dans_un_dossier(argc, argv, 5, prepare, [](const bench::Medianes& rapport) {
+        const std::string fichiers =
+            " (" + std::to_string(collabs) + " × " + std::to_string(records) + " records)";
+        bench::imprime_ratio(rapport, "BM_chargement_planning", "BM_lecture_20_fichiers",
+                             "chargement du planning / lecture séquentielle" + fichiers);
+        bench::imprime_ratio(rapport, "BM_recherche_mot", "BM_lecture_20_fichiers",
+                             "recherche d'un mot / lecture séquentielle" + fichiers);
+        bench::imprime_ratio(rapport, "BM_scans_seuls", "BM_lecture_20_fichiers",
+                             "les seules lectures du jour / lecture séquentielle" + fichiers);
+        if (const double peinture = rapport.temps("BM_peinture_planning"); peinture > 0)
+            std::printf("peinture du planning (%d colonnes) : %.2f ms, une image à 60 Hz : "
+                        "16.67 ms\n",
+                        collabs, peinture / 1e6);
+    });
 }

@@ -24,11 +24,9 @@
 #include <cstdio>
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
 
@@ -180,23 +178,22 @@ BENCHMARK(BM_dialogue_nu)->UseManualTime()->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     if (qgetenv("DISPLAY").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QTemporaryDir dossier;
-    QDir::setCurrent(dossier.path());
-    bench::prepare_dossier_livre(1000);
-    for (const int records : tailles)
-        bench::genere_rendez_vous(collab_de(records), records, 12);
-    ui::enregistre_vue<Detarv, DetarvVue>();
-    bench::Medianes rapport;
-    bench::lance_bancs(argc, argv, 5, rapport);
-    const auto ratio = [&](const std::string& a, const std::string& b, const std::string& quoi) {
-        if (rapport.temps(a) > 0 && rapport.temps(b) > 0)
-            std::printf("%s : %.2f × la fenêtre nue (médianes)\n", quoi.c_str(),
-                        rapport.temps(a) / rapport.temps(b));
-    };
-    for (const int records : tailles)
-        ratio("BM_pas_de_jour" + std::to_string(records), "BM_pas_nu" + std::to_string(records),
-              "pas d'un jour (" + std::to_string(records) + " records)");
-    ratio("BM_ouverture_editeur", "BM_dialogue_nu", "ouverture de l'éditeur");
-    benchmark::Shutdown();
-    return 0;
+    return bench::dans_un_dossier(
+        argc, argv, 5,
+        [] {
+            bench::prepare_dossier_livre(1000);
+            for (const int records : tailles)
+                bench::genere_rendez_vous(collab_de(records), records, 12);
+            ui::enregistre_vue<Detarv, DetarvVue>();
+        },
+        [](const bench::Medianes& rapport) {
+            const std::string nue = " × la fenêtre nue (médianes)";
+            for (const int records : tailles)
+                bench::imprime_ratio(rapport, "BM_pas_de_jour" + std::to_string(records),
+                                     "BM_pas_nu" + std::to_string(records),
+                                     "pas d'un jour (" + std::to_string(records) + " records)",
+                                     nue);
+            bench::imprime_ratio(rapport, "BM_ouverture_editeur", "BM_dialogue_nu",
+                                 "ouverture de l'éditeur", nue);
+        });
 }

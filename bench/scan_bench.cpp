@@ -16,8 +16,6 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
 #include <string>
 
 using namespace agenda;
@@ -71,21 +69,19 @@ BENCHMARK(BM_charge_journee)->Apply(tailles);
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
-    QTemporaryDir dossier;
-    QDir::setCurrent(dossier.path());
-    for (std::size_t i = 0; i < cas.size(); ++i)
-        bench::genere_rendez_vous(std::int16_t(i + 1), cas[i].records, cas[i].du_jour);
-    bench::Medianes rapport;
-    bench::lance_bancs(argc, argv, 5, rapport);
-    ferme_tous_les_canaux();
-    for (const auto& [records, du_jour] : cas) {
-        const std::string arg = std::to_string(records) + "/" + std::to_string(du_jour);
-        const double scan = rapport.temps("BM_charge_journee" + arg);
-        const double lecture = rapport.temps("BM_lecture_sequentielle" + arg);
-        if (scan > 0 && lecture > 0)
-            std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : %.2f\n",
-                        records, du_jour, scan / lecture);
-    }
-    benchmark::Shutdown();
-    return 0;
+    return bench::dans_un_dossier(
+        argc, argv, 5,
+        [] {
+            for (std::size_t i = 0; i < cas.size(); ++i)
+                bench::genere_rendez_vous(std::int16_t(i + 1), cas[i].records, cas[i].du_jour);
+        },
+        [](const bench::Medianes& rapport) {
+            for (const auto& [records, du_jour] : cas) {
+                const std::string arg = std::to_string(records) + "/" + std::to_string(du_jour);
+                bench::imprime_ratio(
+                    rapport, "BM_charge_journee" + arg, "BM_lecture_sequentielle" + arg,
+                    "charge_journee / lecture séquentielle (" + std::to_string(records) +
+                        " records, " + std::to_string(du_jour) + " du jour)");
+            }
+        });
 }

@@ -178,17 +178,13 @@ void Torva1::sel_onglet(int n) {
         etape([&] { affiche_rv(); });
         break;
     case 3: {
-        // The planning and the search may change the date, the collaborator and the open
-        // file: the whole load runs again once they have returned.
         Torva11 planning;
-        etape([&] { ui::montre_modal(planning); });
-        Timer1.start(250);
+        pleine_page(planning);
         break;
     }
     case 4: {
         Torvar recherche;
-        etape([&] { ui::montre_modal(recherche); });
-        Timer1.start(250);
+        pleine_page(recherche);
         break;
     }
     default:
@@ -213,6 +209,13 @@ void Torva1::bt_out_Click() {
     ui::montre_modal(reglages);
     emit cache(false);
     charge();
+}
+
+void Torva1::pleine_page(ui::FenetreModale& fenetre) {
+    // The planning and the search may change the date, the collaborator and the open file: the
+    // whole load runs again once they have returned.
+    etape([&] { ui::montre_modal(fenetre); });
+    Timer1.start(250);
 }
 
 void Torva1::calend_Click(Date jour) {

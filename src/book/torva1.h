@@ -121,6 +121,7 @@ signals:
     void charge_banniere();
 
 private:
+    void pleine_page(ui::FenetreModale& fenetre);
     void place_etiquette(int i, const QString& entree);
     void clic_page(int base, int x, int y);
 };

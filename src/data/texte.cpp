@@ -73,6 +73,24 @@ QString sans_blancs(const QString& s) {
     return s.mid(debut, fin - debut);
 }
 
+QString nombre(double v) {
+    return QString::number(v, 'g', 15);
+}
+
+QString remplace_retours(const QString& t, QStringView par) {
+    QString r;
+    r.reserve(t.size());
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        if (t[i] != QLatin1Char('\r')) {
+            r += t[i];
+            continue;
+        }
+        r += par;
+        ++i;
+    }
+    return r;
+}
+
 QString initiale_majuscule(const QString& s) {
     if (s.isEmpty()) return s;
     return s.left(1).toUpper() + s.mid(1);

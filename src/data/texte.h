@@ -39,6 +39,12 @@ inline QString cadre(const QString& s, int largeur) {
 // Blanks removed from both ends, and only blanks: a line break at the edge of a text stays.
 QString sans_blancs(const QString& s);
 
+// A number in the general format: no decimals when it has none.
+QString nombre(double v);
+
+// Each carriage return, and the character behind it (its line feed), replaced by `par`.
+QString remplace_retours(const QString& t, QStringView par);
+
 // The first letter in upper case, the rest as is.
 QString initiale_majuscule(const QString& s);
 

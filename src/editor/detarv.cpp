@@ -79,10 +79,6 @@ std::array<ui::RectTwips, 12> sur_l_anneau(const std::array<ui::RectTwips, 12>& 
     return cellules;
 }
 
-QString nombre(double v) {
-    return QString::number(v, 'g', 15);
-}
-
 QString chiffres(const QString& texte) {
     QString r;
     for (const QChar c : texte)

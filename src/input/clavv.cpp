@@ -18,44 +18,27 @@ constexpr int cote = 795, pas = 990;
 } // namespace
 
 ui::RectTwips Clavv::touche(int i) {
-    // Keys in rows, one every 990 twips, save the larger ones placed by hand.
+    // The larger keys, and those off the rows, placed by hand.
+    struct Placee {
+        int touche;
+        ui::RectTwips r;
+    };
+    static constexpr Placee placees[] = {
+        {12, {210, 240, cote, cote}},   {13, {12090, 240, 1725, 885}},
+        {14, {150, 1200, 1215, 855}},   {38, {12540, 1200, 1275, 1845}},
+        {26, {210, 2220, 1275, 855}},   {39, {240, 3240, 1095, cote}},
+        {40, {1560, 3240, 735, cote}},  {51, {12360, 3180, 1425, 885}},
+        {57, {720, 4230, cote, cote}},  {54, {1830, 4230, cote, cote}},
+        {55, {2820, 4230, cote, cote}}, {0, {3900, 4170, 5385, 975}},
+        {56, {9510, 4170, 1245, 915}},  {52, {10980, 4200, 855, 885}},
+        {53, {12030, 4200, 855, 885}},
+    };
+    for (const Placee& p : placees)
+        if (p.touche == i) return p.r;
+    // The others in rows, one every 990 twips.
     const auto rang = [](int premier, int gauche, int haut, int k) {
         return ui::RectTwips{gauche + (k - premier) * pas, haut, cote, cote};
     };
-    switch (i) {
-    case 12:
-        return {210, 240, cote, cote};
-    case 13:
-        return {12090, 240, 1725, 885};
-    case 14:
-        return {150, 1200, 1215, 855};
-    case 38:
-        return {12540, 1200, 1275, 1845};
-    case 26:
-        return {210, 2220, 1275, 855};
-    case 39:
-        return {240, 3240, 1095, cote};
-    case 40:
-        return {1560, 3240, 735, cote};
-    case 51:
-        return {12360, 3180, 1425, 885};
-    case 57:
-        return {720, 4230, cote, cote};
-    case 54:
-        return {1830, 4230, cote, cote};
-    case 55:
-        return {2820, 4230, cote, cote};
-    case 0:
-        return {3900, 4170, 5385, 975};
-    case 56:
-        return {9510, 4170, 1245, 915};
-    case 52:
-        return {10980, 4200, 855, 885};
-    case 53:
-        return {12030, 4200, 855, 885};
-    default:
-        break;
-    }
     if (i <= 11) return rang(0, 210, 240, i);
     if (i <= 25) return rang(15, 1500, 1230, i);
     if (i <= 37) return rang(27, 1680, 2250, i);

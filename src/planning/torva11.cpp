@@ -24,10 +24,15 @@ constexpr std::int32_t gris = 0xC0C0C0, bleu_nuit = 0x000080, ombre = 0x808080, 
 const QString prise = QStringLiteral("Cliquez sur le rendez-vous à transférer");
 const QString depot = QStringLiteral("Cliquez sur le planning ou deplacer le rendez vous !");
 
-// A whole division rounded half to even; by zero it is an error for the step's trap.
-int divise(double a, int b) {
+// A divisor; zero is an error for the step's trap.
+int non_nul(int b) {
     if (b == 0) throw Erreur(QStringLiteral("Division par zéro."));
-    return en_i32(a / b);
+    return b;
+}
+
+// A whole division rounded half to even.
+int divise(double a, int b) {
+    return en_i32(a / non_nul(b));
 }
 
 // Hours and minutes as decimal hours, by text: the minutes times 1.66666 in pattern "0" behind
@@ -42,20 +47,6 @@ QString sur_une_ligne(QString t) {
     for (QChar& c : t)
         if (c == QLatin1Char('\r') || c == QLatin1Char('\n')) c = QLatin1Char(' ');
     return t;
-}
-
-// Each carriage return, and the character behind it, becomes ". ".
-QString phrases(const QString& t) {
-    QString r;
-    for (qsizetype i = 0; i < t.size(); ++i) {
-        if (t[i] != QLatin1Char('\r')) {
-            r += t[i];
-            continue;
-        }
-        r += QLatin1String(". ");
-        ++i;
-    }
-    return r;
 }
 
 // The characters of a line laid one by one until it overflows the width, the overflowing one
@@ -88,12 +79,11 @@ void Torva11::Form_Load() {
     modifie();
 }
 
-int Torva11::lit_colonnes() {
+void Torva11::lit_colonnes() {
     nb_collabs = std::clamp<int>(etat.nb_collab, 0, 20);
     largeur_colonne = divise(largeur_planning, nb_collabs);
     for (int i = 1; i <= nb_collabs; ++i)
         col_x[std::size_t(i)] = i * largeur_colonne;
-    return nb_collabs;
 }
 
 void Torva11::dessine_planning() {
@@ -186,7 +176,7 @@ void Torva11::dessine_rv(int i, std::int32_t collab, const QString& e) {
     // The text, broken at the box's width character by character, and stopped 200 twips above
     // its bottom whatever is left.
     const RecRv rec = lit_record<RecRv>(canal::planning, std::int64_t(numero) + 1);
-    const QString t = phrases(RecRv::texte_rv.sans_blancs_dans(rec.octets));
+    const QString t = remplace_retours(RecRv::texte_rv.sans_blancs_dans(rec.octets), u". ");
     p1.couleur_texte(noir);
     p1.taille_police(7);
     std::int16_t dy = en_i16(hauteur_heure * debut);
@@ -277,9 +267,8 @@ void Torva11::depose(int y, std::int16_t cible) {
     etat.num_rv = nouveau_num;
     // Only the start hour changes; the editor, opened at once, sets the rest.
     etape([&] {
-        if (hauteur_heure == 0) throw Erreur(QStringLiteral("Division par zéro."));
         const double heure =
-            std::floor(double(y - marge_haut) / hauteur_heure) + double(heure_ouverture);
+            std::floor(double(y - marge_haut) / non_nul(hauteur_heure)) + double(heure_ouverture);
         QString cle = copie.lit(RecRv::cle_rv);
         cle.replace(7, 2, motif_zeros(double(en_i16(heure)), 2).left(2));
         copie.pose(RecRv::cle_rv, cle);

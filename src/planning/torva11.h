@@ -106,7 +106,7 @@ public:
 private:
     void dessine_rv(int colonne, std::int32_t collab, const QString& entree);
     void depose(int y, std::int16_t cible);
-    int lit_colonnes(); // the columns' geometry
+    void lit_colonnes(); // the columns' geometry
 };
 
 } // namespace agenda

@@ -12,6 +12,7 @@
 #include "editor/detarv.h"
 #include "input/mini_97.h"
 #include "ui/dates.h"
+#include "ui/liste_triee.h"
 
 #include <algorithm>
 #include <cstring>
@@ -124,17 +125,6 @@ private:
     V va_{}, vb_{}, casse_ = partout(0x20), blanc_ = partout(' ');
 };
 
-// Each carriage return and the character after it become one blank.
-QString sur_une_ligne(const QString& t) {
-    QString r;
-    r.reserve(t.size());
-    for (qsizetype i = 0; i < t.size(); ++i) {
-        r += t[i] == QLatin1Char('\r') ? QLatin1Char(' ') : t[i];
-        if (t[i] == QLatin1Char('\r')) ++i;
-    }
-    return r;
-}
-
 // "yymmdd" as a day, month and day overflowing into the next as a date's parts do.
 Date jour_de_cle(const QString& cle) {
     const QDate d(2000 + int(val(cle.left(2))), 1, 1);
@@ -183,14 +173,11 @@ void Torvar::recherche_rv() {
                                   motif_zeros(c, 2) + QLatin1Char('|') + motif_zeros(n, 6) +
                                   QLatin1Char('|');
             List1.push_back(cadre(debut, 99) +
-                            sur_une_ligne(RecRv::texte_rv.sans_blancs_dans(rec)));
+                            remplace_retours(RecRv::texte_rv.sans_blancs_dans(rec), u" "));
             return true;
         });
     }
-    // As a sorted list keeps its lines: by text, equal lines in their order of arrival.
-    std::stable_sort(List1.begin(), List1.end(), [](const QString& a, const QString& b) {
-        return a.compare(b, Qt::CaseInsensitive) < 0;
-    });
+    ui::trie_comme_une_liste(List1, [](const QString& l) -> const QString& { return l; });
     affiche_tableau();
 }
 

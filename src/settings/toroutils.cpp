@@ -10,6 +10,7 @@
 #include "sms/sms.h"
 #include "ui/dates.h"
 #include "ui/erreur.h"
+#include "ui/liste_triee.h"
 #include "ui/systeme.h"
 
 #include <algorithm>
@@ -22,11 +23,6 @@ namespace {
 const QString heure_vide = QStringLiteral("07:12:19:");
 // The help of the SMS module, on the team's server.
 const QString serveur_aide = QStringLiteral("https://www.vigi-sms.fr");
-
-// A general number: no decimals when there are none.
-QString nombre(double v) {
-    return QString::number(v, 'g', 15);
-}
 
 } // namespace
 
@@ -43,9 +39,8 @@ void Toroutils::Form_Load() {
     Combo1_liste.clear();
     for (int h = 0; h < 24; ++h)
         Combo1_liste << motif_zeros(h, 2) + QStringLiteral(" heure");
-    if (Combo3_liste.isEmpty())
-        Combo3_liste = {QStringLiteral("Le jour même"), QStringLiteral("la Veille"),
-                        QStringLiteral("2 jours avant"), QStringLiteral("3 jours avant")};
+    Combo3_liste = {QStringLiteral("Le jour même"), QStringLiteral("la Veille"),
+                    QStringLiteral("2 jours avant"), QStringLiteral("3 jours avant")};
     Combo3_index = 0;
 
     QString heures = lit_valeur_param(QStringLiteral("TORVA:HEURE"));
@@ -177,10 +172,8 @@ void Toroutils::liste_rv() {
             List1.push_back({cle + RecRv::texte_rv.dans(rec), n});
         return true;
     });
-    // As a sorted list keeps its items: by text, so by date and hour.
-    std::stable_sort(List1.begin(), List1.end(), [](const Entree& a, const Entree& b) {
-        return a.texte.compare(b.texte, Qt::CaseInsensitive) < 0;
-    });
+    // By text, so by date and hour.
+    ui::trie_comme_une_liste(List1, [](const Entree& e) -> const QString& { return e.texte; });
 }
 
 void Toroutils::List1_DblClick(int index) {

@@ -1,10 +1,12 @@
 #include "sms/verifsmss.h"
 
 #include "data/fichier_records.h"
+#include "data/octets.h"
 #include "data/record.h"
 #include "data/texte.h"
 #include "input/mini_97.h"
 #include "sms/sms.h"
+#include "ui/liste_triee.h"
 
 #include <algorithm>
 
@@ -21,20 +23,20 @@ void Verifsmss::Form_Load() {
         std::int32_t n;
     };
     std::vector<Entree> List1;
-    parcourt<RecSms>(file, n, [&](std::int32_t i, std::span<const std::uint8_t> octets) {
-        QString texte = RecSms::texte_sms.dans(octets);
-        if (texte.mid(19, 10) == numero) List1.push_back({std::move(texte), i});
+    parcourt<RecSms>(file, n, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        // Only the number is decoded from each record; the whole text only when it matches.
+        if (octets::texte(rec, champ_sms::tel_sms.position - 1, 10) == numero)
+            List1.push_back({RecSms::texte_sms.dans(rec), i});
         return true;
     });
-    // By the whole text, which starts with the send time; equals keep their order.
-    std::stable_sort(List1.begin(), List1.end(), [](const Entree& a, const Entree& b) {
-        return a.texte.compare(b.texte, Qt::CaseInsensitive) < 0;
-    });
+    // By the whole text, which starts with the send time.
+    ui::trie_comme_une_liste(List1, [](const Entree& e) -> const QString& { return e.texte; });
     if (List1.size() > 40) lignes_grille = int(List1.size()) + 3;
 
     g1.clear();
     for (const Entree& e : List1) {
-        const QString t = lit_record<RecSms>(file, std::int64_t(e.n) + 1).lit(RecSms::texte_sms);
+        // The text the scan has just read is the record's.
+        const QString& t = e.texte;
         Ligne l{champ_sms::lit(t, champ_sms::date_affiche_jour),
                 champ_sms::lit(t, champ_sms::date_affiche_heure),
                 champ_sms::lit(t, champ_sms::message_sms), e.n, false};

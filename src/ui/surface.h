@@ -63,7 +63,6 @@ public:
     int hauteur_texte(const QString& texte) const;
     // The colour at a point: the last box drawn there, or the surface's own.
     std::int32_t couleur_point(int x, int y) const;
-    void couleur_fond(std::int32_t c) { fond_ = c; }
 
     const std::vector<Trait>& traits() const { return traits_; }
     const std::vector<Texte>& textes() const { return textes_; }
@@ -87,7 +86,7 @@ private:
     std::int32_t couleur_texte_ = 0;
     bool pointille_ = false;
     int epaisseur_ = 0;
-    std::int32_t fond_ = 0xFFFFFF;
+    static constexpr std::int32_t fond_ = 0xFFFFFF; // the surface's own colour
     std::vector<Trait> traits_;
     std::vector<Texte> textes_;
     std::vector<Boite> boites_;

@@ -1,7 +1,6 @@
 #include "editor/vue/detarv_vue.h"
 
 #include "data/etat.h"
-
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"

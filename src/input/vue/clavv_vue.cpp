@@ -14,42 +14,30 @@ namespace {
 
 // The faces of the keys that do something, drawn on the keyboard's picture.
 QString face(int i) {
-    switch (i) {
-    case Clavv::efface:
-        return QStringLiteral("⌫");
-    case Clavv::efface_tout:
-        return QStringLiteral("Effacer");
-    case Clavv::verrouillage:
-        return QStringLiteral("Verr. maj");
-    case Clavv::valide:
-        return QStringLiteral("Valider");
-    case Clavv::majuscule:
-        return QStringLiteral("⇧ Maj");
-    case Clavv::liste_haut:
-        return QStringLiteral("▲");
-    case Clavv::liste_bas:
-        return QStringLiteral("▼");
-    case Clavv::gauche:
-        return QStringLiteral("◀");
-    case Clavv::droite:
-        return QStringLiteral("▶");
-    case Clavv::alternative:
-        return QStringLiteral("Alt Gr");
-    case Clavv::annule:
-        return QStringLiteral("Annuler");
-    default:
-        return {};
-    }
+    static const std::pair<int, const char16_t*> faces[] = {
+        {Clavv::efface, u"⌫"},
+        {Clavv::efface_tout, u"Effacer"},
+        {Clavv::verrouillage, u"Verr. maj"},
+        {Clavv::valide, u"Valider"},
+        {Clavv::majuscule, u"⇧ Maj"},
+        {Clavv::liste_haut, u"▲"},
+        {Clavv::liste_bas, u"▼"},
+        {Clavv::gauche, u"◀"},
+        {Clavv::droite, u"▶"},
+        {Clavv::alternative, u"Alt Gr"},
+        {Clavv::annule, u"Annuler"},
+    };
+    for (const auto& [touche, texte] : faces)
+        if (touche == i) return QString::fromUtf16(texte);
+    return {};
 }
 
 } // namespace
 
 ClavvVue::ClavvVue(Clavv& l) : VueModale(l, Clavv::largeur, Clavv::hauteur), l_(l) {
     setWindowTitle(QStringLiteral("Clavier"));
-    auto* label1 = new QLabel(this);
-    label1->setObjectName(QStringLiteral("Label1"));
-    ui::place(*label1, Clavv::Label1_rect);
-    label1->setFont(ui::police(QStringLiteral("DejaVu Serif"), 13, true));
+    label1_ = ui::libelle(*this, Clavv::Label1_rect, {},
+                          ui::police(QStringLiteral("DejaVu Serif"), 13, true));
     text1_ = new QLineEdit(this);
     ui::place(*text1_, Clavv::Text1_rect);
     text1_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 18));
@@ -87,7 +75,7 @@ ClavvVue::ClavvVue(Clavv& l) : VueModale(l, Clavv::largeur, Clavv::hauteur), l_(
 }
 
 void ClavvVue::montre() {
-    findChild<QLabel*>(QStringLiteral("Label1"))->setText(l_.Label1);
+    label1_->setText(l_.Label1);
     for (int i = 0; i < Clavv::touches; ++i)
         ttoc_[std::size_t(i)]->setText(
             QString(l_.ttoc[std::size_t(i)]).replace(QLatin1Char('&'), QLatin1String("&&")));

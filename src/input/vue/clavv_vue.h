@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QLabel;
 class QLineEdit;
 class QToolButton;
 
@@ -20,6 +21,7 @@ private:
     void montre() override;
 
     Clavv& l_;
+    QLabel* label1_;
     QLineEdit* text1_;
     std::array<QToolButton*, Clavv::touches> ttoc_{};
 };

@@ -2,7 +2,9 @@
 
 #include "clients/vue/cclifa_vue.h"
 #include "clients/vue/lit_cli_vue.h"
+#include "editor/vue/ch_coul_vue.h"
 #include "editor/vue/detarv_vue.h"
+#include "editor/vue/saisnote_vue.h"
 #include "input/vue/clavv_vue.h"
 #include "input/vue/date_97_vue.h"
 #include "input/vue/mini_97_vue.h"
@@ -38,6 +40,8 @@ void enregistre_fenetres() {
     ui::enregistre_vue<Verifsmss, VerifsmssVue>();
     ui::enregistre_vue<Torvar, TorvarVue>();
     ui::enregistre_vue<Toroutils, ToroutilsVue>();
+    ui::enregistre_vue<Saisnote, SaisnoteVue>();
+    ui::enregistre_vue<ChCoul, ChCoulVue>();
 }
 
 } // namespace

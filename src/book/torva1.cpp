@@ -8,8 +8,10 @@
 #include "data/record.h"
 #include "data/rendez_vous.h"
 #include "data/texte.h"
+#include "editor/ch_coul.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
+#include "editor/saisnote.h"
 #include "planning/saisiuti.h"
 #include "planning/torva11.h"
 #include "search/torvar.h"
@@ -67,6 +69,21 @@ void applique_motif(const QString& motif, std::array<bool, 12>& gauche,
     }
 }
 
+// Weekday names of the year grids' column 0, Monday first, and the month titles, as they stand.
+const std::array<QString, 7> noms_des_jours = {QStringLiteral("Lundi"),    QStringLiteral("Mardi"),
+                                               QStringLiteral("Mercredi"), QStringLiteral("Jeudi"),
+                                               QStringLiteral("Vendredi"), QStringLiteral("samedi"),
+                                               QStringLiteral("Dimanche")};
+const std::array<QString, 12> noms_des_mois = {
+    QStringLiteral("Janvier"), QStringLiteral("Février"),  QStringLiteral("Mars"),
+    QStringLiteral("Avril"),   QStringLiteral("Mai"),      QStringLiteral("Juin"),
+    QStringLiteral("Juillet"), QStringLiteral("Aout"),     QStringLiteral("Septembre"),
+    QStringLiteral("Octobre"), QStringLiteral("Novembre"), QStringLiteral("Décembre")};
+
+int annee_de(Date d) {
+    return int(val(ui::format_date(d, u"yyyy")));
+}
+
 // An hour field out of the 16-bit range is an overflow that nothing traps in the load.
 std::int16_t champ_heure(const QString& valeur, int debut, int longueur) {
     return en_i16(val(mid1(valeur, debut, longueur)));
@@ -109,6 +126,9 @@ void Torva1::charge() {
         charge_collaborateurs();
     }
     Timer3.start(1500);
+    etat.num_note = 0;
+    // The month control colours the holidays as the year view does.
+    lit_couleur(QStringLiteral("COUL_FERIE"), Label5_fond);
     if (etat.date_courante == 0) etat.date_courante = ui::date_maintenant();
     sel_click_g(0);
     sel_onglet(0);
@@ -169,6 +189,7 @@ void Torva1::sel_click_d(int n) {
 
 void Torva1::sel_onglet(int n) {
     if (n == 5 || n == 11) appel_menu();
+    etape([&] { Picture6_visible = false; });
     etape([&] { vue_visible = n >= 0 && n < nb_vues ? n : -1; });
     ui::cede();
     switch (n) {
@@ -176,6 +197,13 @@ void Torva1::sel_onglet(int n) {
         etape([&] { lit_param_jour(); });
         etape([&] { decod_date(); });
         etape([&] { affiche_rv(); });
+        break;
+    case 1:
+        etape([&] { decod_semaine(); });
+        break;
+    case 2:
+        etape([&] { etat.annee_courante = annee_de(etat.date_courante); });
+        etape([&] { decod_annee(); });
         break;
     case 3: {
         Torva11 planning;
@@ -188,8 +216,7 @@ void Torva1::sel_onglet(int n) {
         break;
     }
     default:
-        // The week and year views are not in the book yet: their page slot shows empty.
-        break;
+        break; // slots that hold no view
     }
 }
 
@@ -360,33 +387,281 @@ void Torva1::affiche_rv() {
     etape([] { charge_journee(); });
     num_rv_label.assign(std::size_t(etat.nb_jour()) + 1, 0);
     for (int i = 1; i <= etat.nb_jour(); ++i)
-        etape([&] { place_etiquette(i, etat.liste_jour[i - 1]); });
+        etape([&] {
+            using namespace slot_page;
+            const QString& e = etat.liste_jour[i - 1];
+            const std::int32_t numero = entree_jour::numero(e);
+            const RecRv rec = lit_record<RecRv>(canal::rv, std::int64_t(numero) + 1);
+            const bool a_gauche =
+                val(mid1(rec.lit(RecRv::cle_rv), 8, 2)) < table_pages[base_gauche + heure_fin];
+            echelle_page = a_gauche ? echelle_g : echelle_d;
+            etat.page_base = a_gauche ? base_gauche : base_droite;
+            EtiquetteRv& et = (a_gauche ? lrv : lrvd)[i];
+            et.legende = sans_blancs(rec.lit(RecRv::texte_rv));
+            et.couleur = rec.lit(RecRv::couleur_rv);
+            num_rv_label[std::size_t(i)] = numero;
+            place_etiquette(et, e, etat.page_base);
+        });
     ui::cede();
 }
 
-void Torva1::place_etiquette(int i, const QString& e) {
+void Torva1::place_etiquette(EtiquetteRv& et, const QString& e, int b) {
     using namespace slot_page;
-    const std::int32_t numero = entree_jour::numero(e);
-    const RecRv rec = lit_record<RecRv>(canal::rv, std::int64_t(numero) + 1);
-    const bool a_gauche =
-        val(mid1(rec.lit(RecRv::cle_rv), 8, 2)) < table_pages[base_gauche + heure_fin];
-    echelle_page = a_gauche ? echelle_g : echelle_d;
-    etat.page_base = a_gauche ? base_gauche : base_droite;
-    const int b = etat.page_base;
-
-    EtiquetteRv& et = (a_gauche ? lrv : lrvd)[i];
     et.left = table_pages[b + gauche] + 45;
     et.width = table_pages[b + largeur] - 90;
     et.bordure = entree_jour::encadre(e);
-    et.couleur = rec.lit(RecRv::couleur_rv);
-    et.legende = sans_blancs(rec.lit(RecRv::texte_rv));
-    num_rv_label[std::size_t(i)] = numero;
     const float debut = heure_centieme(entree_jour::heure_debut(e));
     et.top = en_i32(debut * echelle_page + table_pages[b + origine]);
     // A key damaged by hand may give a height a label refuses (negative, or beyond any
     // screen): the label keeps the height it was designed with.
     const double h = (heure_centieme(entree_jour::heure_fin(e)) - debut) * echelle_page;
     et.height = h >= 0 && h <= INT32_MAX ? en_i32(h) : EtiquetteRv::hauteur_modele;
+}
+
+void Torva1::decod_semaine() {
+    ui::pose_pointeur(ui::Pointeur::sablier);
+    // The Monday of the week, Sunday counted as its last day.
+    int jour = ui::jour_semaine(etat.date_courante);
+    if (jour == 1) jour = 8;
+    etat.date_courante = etat.date_courante + 2 - jour;
+    const Date lundi = etat.date_courante;
+
+    semaine_dates.fill(0);
+    using namespace slot_page;
+    const std::array<std::int16_t, 8> tableau{
+        0, etat.heure_debut, etat.heure_fin, 0, 150, 2100, 800, 5300};
+    std::copy(tableau.begin() + 1, tableau.end(), table_pages.begin() + 1);
+
+    // One pass over the file serves the seven days.
+    std::array<QStringList, nb_bandes> jours;
+    etape([&] { jours = scan_semaine(canal_fichier(canal::rv), lundi); });
+    for (int k = 0; k < nb_bandes; ++k) {
+        affiche_nom_jour(k);
+        dessine_semaine(pages[std::size_t(k)]);
+        jour_s(k, jours[std::size_t(k)]);
+        semaine_dates[std::size_t(k)] = etat.date_courante;
+        etat.date_courante += 1;
+    }
+    // The view leaves the book on the Monday.
+    etat.date_courante = lundi;
+
+    etat.cle_note = QStringLiteral("SE:") + motif_jour(lundi);
+    lit_note_semaine();
+    ui::pose_pointeur(ui::Pointeur::fleche);
+}
+
+void Torva1::affiche_nom_jour(int k) {
+    njours[std::size_t(k)] =
+        initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
+}
+
+void Torva1::dessine_semaine(ui::Surface& surface) {
+    using namespace slot_page;
+    auto& t = table_pages;
+    t[nb_heures] = en_i16(t[heure_fin] - t[heure_premiere]);
+    // Nothing traps the division by zero: it ends the program.
+    if (t[nb_heures] == 0)
+        throw Erreur::sans_piege(QStringLiteral("Réglage « TORVA:HEURE » invalide : la première "
+                                                "heure du jour est égale à la dernière, les jours "
+                                                "de la semaine n'ont aucune heure."));
+    t[hauteur_heure] = en_i16(double(t[hauteur]) / t[nb_heures]);
+    echelle_page = static_cast<float>(t[hauteur_heure] / 100.0);
+    t[origine] = en_i16(t[haut] - t[heure_premiere] * 100 * double(echelle_page));
+
+    constexpr std::int32_t gris = 0xC0C0C0;
+    surface.efface();
+    surface.police(QStringLiteral("Arial"));
+    surface.taille_police(9);
+    surface.couleur_texte(gris);
+    const int x1 = t[gauche], x2 = t[gauche] + t[largeur];
+    for (int i = 1; i <= t[nb_heures]; ++i) {
+        const int y = t[haut] + (i - 1) * t[hauteur_heure];
+        surface.ligne(x1, y, x2, y, gris);
+        const QString h = QString::number(t[heure_premiere] + i - 1);
+        surface.ecrit(x1 - 100 - surface.largeur_texte(h), y - 50, h);
+    }
+}
+
+void Torva1::jour_s(int k, const QStringList& jour) {
+    using namespace slot_page;
+    etat.liste_jour = jour;
+    auto& etiquettes = lrvs[std::size_t(k)];
+    etiquettes.clear();
+    for (int i = 1; i <= etat.nb_jour(); ++i) {
+        const QString& e = etat.liste_jour[i - 1];
+        EtiquetteRv& et = etiquettes[i];
+        etape([&] {
+            const RecRv rec =
+                lit_record<RecRv>(canal::rv, std::int64_t(entree_jour::numero(e)) + 1);
+            et.legende = sans_blancs(rec.lit(RecRv::texte_rv));
+            et.couleur = rec.lit(RecRv::couleur_rv);
+        });
+        etape([&] { place_etiquette(et, e, base_gauche); });
+    }
+}
+
+void Torva1::lit_note_semaine() {
+    Text3.clear();
+    Text3_fond = Text3_fond_dessin;
+    Text3_encre = 0;
+    ouvre_notes();
+    if (const std::int32_t n = cherche_note(etat.cle_note); n > 0) {
+        const RecRv note = lit_record<RecRv>(canal::notes, std::int64_t(n) + 1);
+        Text3 = sans_blancs(note.lit(RecRv::texte_rv));
+        if (!Text3.isEmpty()) {
+            Text3_fond = note.lit(RecRv::couleur_rv);
+            Text3_encre = note.lit(RecRv::encadre_rv);
+        }
+    }
+    canal_fichier(canal::notes).ferme();
+}
+
+void Torva1::picture4_Click() {
+    etat.date_courante -= 7;
+    sel_onglet(1);
+}
+
+void Torva1::Picture5_Click() {
+    etat.date_courante += 7;
+    sel_onglet(1);
+}
+
+void Torva1::pages_Click(int k) {
+    if (k < 0 || k >= nb_bandes) return;
+    etat.date_courante = semaine_dates[std::size_t(k)];
+    sel_onglet(0);
+}
+
+void Torva1::lrvs_Click(int k, int i) {
+    if (i > 0) pages_Click(k);
+}
+
+void Torva1::Text3_Click() {
+    if (!frein_du_clic()) return;
+    etat.cle_note = QStringLiteral("SE:") + motif_jour(etat.date_courante);
+    etat.note_x = en_i16(Text3_rect.left + 7910);
+    etat.note_y = en_i16(Text3_rect.top - 1370);
+    Saisnote note;
+    ui::montre_modal(note);
+    ui::cede();
+    Text3 = etat.texte_note;
+    Text3_fond = Text3_fond_dessin;
+    Text3_encre = 0;
+    // The note as written, with its colours; a blank one shows in the design colours.
+    if (!sans_blancs(Text3).isEmpty()) lit_note_semaine();
+}
+
+void Torva1::lit_couleur(const QString& cle, std::int32_t& couleur) {
+    const QString valeur = lit_valeur_param(cle);
+    if (valeur.isEmpty()) return;
+    // A value that is no 32-bit number, damaged by hand, leaves the sample as it was.
+    const double c = val(valeur);
+    if (c >= INT32_MIN && c <= INT32_MAX) couleur = std::int32_t(c);
+}
+
+void Torva1::decod_annee() {
+    ui::pose_pointeur(ui::Pointeur::sablier);
+    lit_couleur(QStringLiteral("COUL_FERIE"), Label5_fond);
+    lit_couleur(QStringLiteral("COUL_RV"), Label6_fond);
+    jours_feries();
+    etat.jours_avec_rv.fill(0);
+    Picture6_visible = true;
+
+    for (std::size_t m = 0; m < g1.size(); ++m) {
+        Mois& mois = g1[m];
+        for (std::size_t ligne = 0; ligne < 7; ++ligne) {
+            mois.texte[ligne].fill(QString());
+            mois.fond[ligne].fill(-1);
+            mois.texte[ligne][0] = noms_des_jours[ligne];
+        }
+        Label111[m] = noms_des_mois[m];
+    }
+
+    const int annee = annee_de(etat.date_courante);
+    etat.annee_courante = annee;
+    Label222 = motif_zeros(annee, 4);
+    Label8 = QString::number(annee + 1);
+    Label9 = QString::number(annee - 1);
+    // Every fourth year is a leap year here, 2100 included.
+    const int jours = 365 + (annee % 4 == 0 ? 1 : 0);
+
+    const auto pose_jour = [&](int mois, int ligne, int colonne, int code) {
+        // A 366th day that runs into the next year has no grid: a subscript error.
+        if (mois >= int(g1.size()) || colonne > 6)
+            throw Erreur(QStringLiteral("Indice hors limites : le %1 n'a pas de place dans "
+                                        "l'année %2.")
+                             .arg(ui::format_date(etat.annee_courante, u"dd/mm/yyyy"))
+                             .arg(annee));
+        const Date d = etat.annee_courante;
+        Mois& g = g1[std::size_t(mois)];
+        const auto l = std::size_t(ligne - 1), c = std::size_t(colonne);
+        g.texte[l][c] = ui::format_date(d, u"d");
+        if (est_ferie(d)) g.fond[l][c] = Label5_fond;
+        if (etat.jours_avec_rv[std::size_t(code)] == 1) g.fond[l][c] = Label6_fond;
+    };
+    const auto code = [](Date d, int facteur) {
+        const QDate j = ui::jour_de(d);
+        return j.day() + facteur * j.month();
+    };
+
+    etat.annee_courante = ui::date_de(QDate(annee, 1, 1));
+    int ligne = (ui::jour_semaine(etat.annee_courante) + 5) % 7 + 1; // Monday 1 to Sunday 7
+    int mois = 0, colonne = 1;
+    pose_jour(mois, ligne, colonne, code(etat.annee_courante, 12));
+    for (int i = 2; i <= jours; ++i) {
+        etat.annee_courante += 1;
+        if (ui::jour_de(etat.annee_courante).month() != mois + 1) {
+            ++mois;
+            colonne = 1;
+        }
+        if (++ligne > 7) {
+            ligne = 1;
+            ++colonne;
+        }
+        pose_jour(mois, ligne, colonne, code(etat.annee_courante, 31));
+    }
+    etat.annee_courante = annee;
+    ++dessins_annee;
+    ui::pose_pointeur(ui::Pointeur::fleche);
+}
+
+void Torva1::Picture7_Click() {
+    etat.annee_courante -= 1;
+    etat.date_courante = ui::date_de(QDate(int(etat.annee_courante), 1, 1));
+    decod_annee();
+}
+
+void Torva1::Picture8_Click() {
+    etat.annee_courante += 1;
+    etat.date_courante = ui::date_de(QDate(int(etat.annee_courante), 1, 1));
+    decod_annee();
+}
+
+void Torva1::g1_Click(int mois, int ligne, int colonne) {
+    if (!frein_du_clic()) return;
+    if (mois < 0 || mois >= int(g1.size()) || ligne < 0 || ligne >= 7 || colonne < 0 ||
+        colonne >= 7)
+        return;
+    const double jour = val(g1[std::size_t(mois)].texte[std::size_t(ligne)][std::size_t(colonne)]);
+    if (jour == 0) return; // an empty cell, or a weekday's name
+    etat.date_courante = ui::date_de(QDate(int(etat.annee_courante), mois + 1, int(jour)));
+    sel_onglet(0);
+}
+
+void Torva1::change_couleur(std::int32_t& couleur, const QString& cle) {
+    ChCoul palette;
+    ui::montre_modal(palette);
+    couleur = en_i32(etat.couleur_choisie);
+    ecrit_param(cle, QString::number(couleur));
+    decod_annee();
+}
+
+void Torva1::Label5_Click() {
+    change_couleur(Label5_fond, QStringLiteral("COUL_FERIE"));
+}
+
+void Torva1::Label6_Click() {
+    change_couleur(Label6_fond, QStringLiteral("COUL_RV"));
 }
 
 } // namespace agenda

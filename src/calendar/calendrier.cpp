@@ -23,17 +23,25 @@ Date date_paques(std::int16_t annee) {
     return ui::date_de(QDate(annee, mois, jour));
 }
 
-void jours_feries() {
+QString liste_feries_de(std::int16_t annee) {
     QString liste = QStringLiteral("0101/0105/0805/1407/1508/0111/1111/2512/");
-    const auto annee = static_cast<std::int16_t>(val(ui::format_date(etat.date_courante, u"yyyy")));
     const Date p = date_paques(annee);
     for (const int ecart : {1, 39, 50})
         liste += ui::format_date(p + ecart, u"ddmm") + QLatin1Char(':');
-    etat.liste_feries = liste;
+    return liste;
+}
+
+void jours_feries() {
+    etat.liste_feries = liste_feries_de(
+        static_cast<std::int16_t>(val(ui::format_date(etat.date_courante, u"yyyy"))));
+}
+
+bool est_ferie(const QString& liste, Date jour) {
+    return liste.contains(ui::format_date(jour, u"ddmm"));
 }
 
 bool est_ferie(Date jour) {
-    return etat.liste_feries.contains(ui::format_date(jour, u"ddmm"));
+    return est_ferie(etat.liste_feries, jour);
 }
 
 } // namespace agenda

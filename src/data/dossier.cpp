@@ -107,4 +107,11 @@ void attente_sablier() {
     ui::pose_pointeur(ui::Pointeur::fleche);
 }
 
+bool frein_du_clic() {
+    const double dernier_clic = 0;
+    if (ui::secondes_depuis_minuit() - dernier_clic > 0.5) return true;
+    attente_sablier();
+    return false;
+}
+
 } // namespace agenda

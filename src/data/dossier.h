@@ -29,5 +29,10 @@ void charge_collaborateurs();
 
 // The two-second brake against repeated clicks: hourglass, yield until the time has passed.
 void attente_sablier();
+// The click brake of the year grid, the week note and the note entry. The time of the last click
+// is a local that starts at zero at each click, so only a click in the first half second after
+// midnight is held back (it waits, and is dropped): the working day's clicks are never refused.
+// Returns whether the click goes on.
+bool frein_du_clic();
 
 } // namespace agenda

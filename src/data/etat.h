@@ -51,6 +51,23 @@ struct Etat {
     bool banniere_chargee = false;
     // Built for the year of date_courante by jours_feries.
     QString liste_feries;
+
+    // The note entry's exchange with the book: the key ("SE:" or "JO:" and "yymmdd"), the text
+    // on return, the note's number in the file (0 while it has none), and where the window
+    // opens, in twips of the book.
+    QString cle_note;
+    QString texte_note;
+    std::int16_t num_note = 0;
+    std::int16_t note_x = 0, note_y = 0;
+    // The colour picker's answer, 0x00BBGGRR.
+    double couleur_choisie = 0;
+
+    // Between drawings of the year view the year on show, as a number; during one, the date
+    // being filled in.
+    double annee_courante = 0;
+    // Indexed by a day code (day + 31 * month): 1 marks a day with appointments in the year
+    // view. Erased at each drawing and filled by nothing yet.
+    std::array<std::int16_t, 451> jours_avec_rv{};
 };
 
 inline Etat etat;

@@ -133,6 +133,33 @@ QStringList scan_journee(FichierRecords& f, Date jour) {
     return liste;
 }
 
+std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
+    std::vector<DebutCle<6>> jours;
+    for (int k = 0; k < 7; ++k)
+        jours.emplace_back(motif_jour(lundi + k));
+    // Most records are of other months: their first four bytes, "yymm", rule them out at once.
+    // A week spans one month or two.
+    const auto mois = [](std::span<const std::uint8_t> cle) {
+        std::uint32_t m;
+        std::memcpy(&m, cle.data(), sizeof m);
+        return m;
+    };
+    const std::uint32_t premier_mois = mois(jours.front().octets),
+                        dernier_mois = mois(jours.back().octets);
+    std::array<QStringList, 7> listes;
+    parcourt<RecRv>(f, repare_entete(f), [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        const std::uint32_t m = mois(rec);
+        if (m != premier_mois && m != dernier_mois) return true;
+        for (std::size_t k = 0; k < jours.size(); ++k)
+            if (jours[k].ouvre(rec)) {
+                listes[k].append(entree_du_jour(i, rec));
+                break;
+            }
+        return true;
+    });
+    return listes;
+}
+
 void charge_journee() {
     etat.liste_jour = scan_journee(canal_fichier(canal::rv), etat.date_courante);
 }

@@ -4,6 +4,7 @@
 
 #include "data/etat.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <QString>
@@ -35,6 +36,8 @@ std::int32_t code_jour(Date jour);
 void charge_journee();
 // The same scan on any file and for any day, for views that show other days or collaborators.
 QStringList scan_journee(FichierRecords& f, Date jour);
+// The day lists of the seven days from `lundi`, in one pass over the file.
+std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi);
 // The day's records among the first `compte` of a file, in record order: their numbers and
 // bytes, until `rv` answers false.
 void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,

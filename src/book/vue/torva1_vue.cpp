@@ -7,13 +7,18 @@
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"
 
+#include "calendar/calendrier.h"
+
 #include <QCalendarWidget>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QTableWidget>
+#include <QTextCharFormat>
 #include <QTimer>
 #include <QToolButton>
 
@@ -23,6 +28,28 @@ namespace {
 
 QString teinte(std::int32_t bbggrr) {
     return ui::couleur(bbggrr).name();
+}
+
+void fond_de(QWidget& w, std::int32_t fond, std::int32_t encre) {
+    QPalette p = w.palette();
+    p.setColor(QPalette::Window, ui::couleur(fond));
+    p.setColor(QPalette::WindowText, ui::couleur(encre));
+    w.setPalette(p);
+}
+
+// The month control's holidays, in the year view's colour. Its page shows a few days of the
+// months before and after, so of the years before and after too.
+void colore_feries(QCalendarWidget& calend, int annee, int mois, std::int32_t couleur) {
+    calend.setDateTextFormat(QDate(), QTextCharFormat());
+    QTextCharFormat ferie;
+    ferie.setBackground(ui::couleur(couleur));
+    const QDate premier(annee, mois, 1);
+    std::map<int, QString> listes;
+    for (QDate d = premier.addDays(-14); d <= premier.addMonths(1).addDays(14); d = d.addDays(1)) {
+        auto [liste, nouvelle] = listes.try_emplace(d.year());
+        if (nouvelle) liste->second = liste_feries_de(std::int16_t(d.year()));
+        if (est_ferie(liste->second, ui::date_de(d))) calend.setDateTextFormat(d, ferie);
+    }
 }
 
 } // namespace
@@ -114,7 +141,15 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             [this] { apres_le_clic([this] { l_.bt_out_Click(); }); });
     connect(&l_, &Torva1::cache, this, [this](bool oui) { setVisible(!oui); });
 
-    vue_jour_ = {label1_, label2_, label3_, label4_, calend_, picture2_, picture3_};
+    connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
+
+    // The title and the cog stand where the week lays its strips and its note.
+    vue_jour_ = {label1_, label2_,   label3_,   label4_, label7_,
+                 calend_, picture2_, picture3_, bt_out};
+    reserves_[reserve_g].parent = pageg_;
+    reserves_[reserve_d].parent = paged_;
+    construit_semaine();
+    construit_annee();
 
     connect(&l_, &Torva1::charge_banniere, this,
             [this] { sepaffic_ = std::make_unique<Sepaffic>(); });
@@ -124,6 +159,169 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
 
 Torva1Vue::~Torva1Vue() {
     ui::pose_fenetre_principale(nullptr);
+}
+
+void Torva1Vue::construit_semaine() {
+    for (int k = 0; k < Torva1::nb_bandes; ++k) {
+        QWidget* page = Torva1::bande_a_gauche(k) ? pageg_ : paged_;
+        auto* bande = new ui::VueSurface(
+            page, [](QPainter& g, QSize s) { g.drawPixmap(0, 0, ui::icc::feuille(s)); });
+        ui::place(*bande, Torva1::pages_rect(k));
+        bande->setCursor(Qt::PointingHandCursor);
+        bande->setToolTip(QStringLiteral("Ouvrir ce jour"));
+        bande->sur_clic = [this, k](int, int) {
+            if (l_.vue_visible == 1) apres_le_clic([this, k] { l_.pages_Click(k); });
+        };
+        pages_[std::size_t(k)] = bande;
+        reserves_[std::size_t(reserve_bande + k)].parent = bande;
+
+        auto* nom = texte(page, Torva1::njours_rect(k), 10, true, Qt::AlignLeft | Qt::AlignBottom);
+        njours_[std::size_t(k)] = nom;
+        auto* ligne = new QFrame(page); // Line4(k), under the heading
+        const ui::RectTwips n = Torva1::njours_rect(k);
+        ui::place(*ligne, {n.left, n.top + n.height + 10, n.width, 15});
+        ligne->setFrameShape(QFrame::HLine);
+        ligne->setStyleSheet(QStringLiteral("color: #b89b72;"));
+        vue_semaine_.insert(vue_semaine_.end(), {bande, nom, ligne});
+    }
+
+    text3_ = new QLabel(paged_);
+    ui::place(*text3_, Torva1::Text3_rect);
+    text3_->setWordWrap(true);
+    text3_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    text3_->setMargin(ui::px(60));
+    text3_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
+    text3_->setAutoFillBackground(true);
+    text3_->setFrameStyle(QFrame::Box | QFrame::Plain);
+    text3_->setCursor(Qt::IBeamCursor);
+    text3_->setToolTip(QStringLiteral("Écrire la note de la semaine"));
+    text3_->installEventFilter(this);
+    auto* label10 = texte(paged_, Torva1::Label10_rect, 11, false, Qt::AlignCenter);
+    label10->setText(QStringLiteral("Note de la semaine"));
+    QToolButton* picture4 = ui::fleche_jour(*paged_, Torva1::picture4_rect, true,
+                                            [this] { appelle([&] { l_.picture4_Click(); }); });
+    QToolButton* picture5 = ui::fleche_jour(*paged_, Torva1::Picture5_rect, false,
+                                            [this] { appelle([&] { l_.Picture5_Click(); }); });
+    picture4->setToolTip(QStringLiteral("Semaine précédente"));
+    picture5->setToolTip(QStringLiteral("Semaine suivante"));
+    vue_semaine_.insert(vue_semaine_.end(), {text3_, label10, picture4, picture5});
+    for (QWidget* w : vue_semaine_)
+        w->hide();
+}
+
+void Torva1Vue::construit_annee() {
+    // A calendar sheet laid over both pages.
+    picture6_ = new QLabel(this);
+    ui::place(*picture6_, Torva1::Picture6_rect);
+    picture6_->setPixmap(ui::icc::feuille(picture6_->size()));
+    picture6_->hide();
+
+    const QFont police_grille = ui::police(QStringLiteral("DejaVu Sans"), 7);
+    for (int m = 0; m < 12; ++m) {
+        auto* g = new QTableWidget(7, 7, picture6_);
+        ui::place(*g, Torva1::g1_rect(m));
+        g->horizontalHeader()->hide();
+        g->verticalHeader()->hide();
+        g->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        g->verticalHeader()->setMinimumSectionSize(1);
+        g->verticalHeader()->setDefaultSectionSize(ui::px(Torva1::g1_ligne));
+        g->horizontalHeader()->setMinimumSectionSize(1);
+        g->setColumnWidth(0, ui::px(Torva1::g1_colonne0));
+        for (int c = 1; c < 7; ++c)
+            g->setColumnWidth(c, ui::px(Torva1::g1_colonne));
+        g->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        g->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        g->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        g->setSelectionMode(QAbstractItemView::NoSelection);
+        g->setFocusPolicy(Qt::NoFocus);
+        g->setFrameStyle(QFrame::NoFrame);
+        g->setGridStyle(Qt::DotLine);
+        g->setFont(police_grille);
+        g->setStyleSheet(QStringLiteral("QTableWidget { background: transparent; "
+                                        "gridline-color: #d8c9a8; color: #4a2c1a; }"));
+        g->setCursor(Qt::PointingHandCursor);
+        for (int r = 0; r < 7; ++r)
+            for (int c = 0; c < 7; ++c) {
+                auto* item = new QTableWidgetItem;
+                // Weekday names to the left, the days centred, all on the cell's foot.
+                item->setTextAlignment((c == 0 ? Qt::AlignLeft : Qt::AlignHCenter) |
+                                       Qt::AlignBottom);
+                g->setItem(r, c, item);
+            }
+        connect(g, &QTableWidget::cellClicked, this, [this, m](int ligne, int colonne) {
+            apres_le_clic([this, m, ligne, colonne] { l_.g1_Click(m, ligne, colonne); });
+        });
+        g1_[std::size_t(m)] = g;
+        label111_[std::size_t(m)] =
+            texte(picture6_, Torva1::Label111_rect(m), 11, true, Qt::AlignLeft | Qt::AlignBottom);
+    }
+    label222_ = texte(picture6_, Torva1::Label222_rect, 30, true, Qt::AlignCenter);
+    label9_ = texte(picture6_, Torva1::Label9_rect, 14, false, Qt::AlignCenter);
+    label8_ = texte(picture6_, Torva1::Label8_rect, 14, false, Qt::AlignCenter);
+    for (QLabel* l : {label9_, label8_}) {
+        l->setCursor(Qt::PointingHandCursor);
+        l->installEventFilter(this);
+    }
+    QToolButton* picture7 = ui::fleche_jour(*picture6_, Torva1::Picture7_rect, true,
+                                            [this] { appelle([&] { l_.Picture7_Click(); }); });
+    QToolButton* picture8 = ui::fleche_jour(*picture6_, Torva1::Picture8_rect, false,
+                                            [this] { appelle([&] { l_.Picture8_Click(); }); });
+    picture7->setToolTip(QStringLiteral("Année précédente"));
+    picture8->setToolTip(QStringLiteral("Année suivante"));
+
+    // The colour samples; a click changes the colour.
+    const auto echantillon = [this](const ui::RectTwips& r, const QString& nom) {
+        auto* l = new QLabel(nom, picture6_);
+        ui::place(*l, r);
+        l->setAlignment(Qt::AlignCenter);
+        l->setFont(ui::police(QStringLiteral("DejaVu Sans"), 9));
+        l->setAutoFillBackground(true);
+        l->setFrameStyle(QFrame::Box | QFrame::Plain);
+        l->setCursor(Qt::PointingHandCursor);
+        l->setToolTip(QStringLiteral("Changer la couleur"));
+        l->installEventFilter(this);
+        return l;
+    };
+    label5_ = echantillon(Torva1::Label5_rect, QStringLiteral("Jours fériés"));
+    label6_ = echantillon(Torva1::Label6_rect, QStringLiteral("Rendez-vous"));
+}
+
+void Torva1Vue::montre_semaine(bool visible) {
+    for (QWidget* w : vue_semaine_)
+        w->setVisible(visible);
+    for (int k = 0; k < Torva1::nb_bandes; ++k) {
+        pages_[std::size_t(k)]->montre(visible ? &l_.pages[std::size_t(k)] : nullptr);
+        njours_[std::size_t(k)]->setText(l_.njours[std::size_t(k)]);
+        montre_etiquettes(reserve_bande + k, visible ? &l_.lrvs[std::size_t(k)] : nullptr);
+    }
+    if (!visible) return;
+    text3_->setText(ui::crlf_vers_ecran(l_.Text3));
+    fond_de(*text3_, l_.Text3_fond, l_.Text3_encre);
+}
+
+void Torva1Vue::montre_annee() {
+    picture6_->setVisible(l_.Picture6_visible);
+    fond_de(*label5_, l_.Label5_fond, 0);
+    fond_de(*label6_, l_.Label6_fond, 0);
+    if (!l_.Picture6_visible || dessin_annee_montre_ == l_.dessins_annee) return;
+    dessin_annee_montre_ = l_.dessins_annee;
+    label222_->setText(l_.Label222);
+    label8_->setText(l_.Label8);
+    label9_->setText(l_.Label9);
+    for (std::size_t m = 0; m < 12; ++m) {
+        label111_[m]->setText(l_.Label111[m]);
+        QTableWidget* g = g1_[m];
+        // Filled with its redrawing held back, as the twelve are filled at once.
+        g->setUpdatesEnabled(false);
+        for (std::size_t r = 0; r < 7; ++r)
+            for (std::size_t c = 0; c < 7; ++c) {
+                QTableWidgetItem* item = g->item(int(r), int(c));
+                item->setText(l_.g1[m].texte[r][c]);
+                const std::int32_t fond = l_.g1[m].fond[r][c];
+                item->setBackground(fond < 0 ? QBrush() : QBrush(ui::couleur(fond)));
+            }
+        g->setUpdatesEnabled(true);
+    }
 }
 
 QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
@@ -167,36 +365,58 @@ void Torva1Vue::montre() {
         calend_->setSelectedDate(ui::jour_de(l_.calend));
     }
 
-    // The labels are kept from one day to the next and only hidden when fewer are needed: no
-    // label is deleted while its own click may be running, and no style sheet is parsed.
-    for (const bool gauche : {true, false}) {
-        auto& reserve = gauche ? etiquettes_g_ : etiquettes_d_;
-        const auto& page = gauche ? l_.lrv : l_.lrvd;
-        std::size_t k = 0;
-        if (jour) {
-            for (const auto& [i, et] : page) {
-                if (k == reserve.size()) reserve.push_back(nouvelle_etiquette(gauche));
-                QLabel* e = reserve[k++];
-                ui::place(*e, {et.left, et.top, et.width, et.height});
-                e->setText(et.legende);
-                QPalette p = e->palette();
-                p.setColor(QPalette::Window, ui::couleur(et.couleur));
-                e->setPalette(p);
-                e->setFrameStyle(et.bordure ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
-                e->setProperty("indice", i);
-                e->show();
-            }
-        }
-        for (; k < reserve.size(); ++k)
-            reserve[k]->hide();
+    const auto feries = std::tuple(calend_->yearShown(), calend_->monthShown(), l_.Label5_fond);
+    if (feries != feries_montres_) {
+        feries_montres_ = feries;
+        colore_feries(*calend_, calend_->yearShown(), calend_->monthShown(), l_.Label5_fond);
     }
+
+    montre_etiquettes(reserve_g, jour ? &l_.lrv : nullptr);
+    montre_etiquettes(reserve_d, jour ? &l_.lrvd : nullptr);
+    montre_semaine(l_.vue_visible == 1);
+    montre_annee();
 }
 
-QLabel* Torva1Vue::nouvelle_etiquette(bool gauche) {
-    auto* e = new QLabel(gauche ? static_cast<QWidget*>(pageg_) : paged_);
-    e->setWordWrap(true);
-    e->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    e->setFont(ui::police(QStringLiteral("Arial"), 8));
+void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiquettes) {
+    // The labels are kept from one showing to the next and only hidden when fewer are needed:
+    // no label is deleted while its own click may be running, and no style sheet is parsed.
+    Reserve& reserve = reserves_[std::size_t(r)];
+    std::size_t k = 0;
+    if (etiquettes) {
+        for (const auto& [i, et] : *etiquettes) {
+            if (k == reserve.etiquettes.size()) reserve.etiquettes.push_back(nouvelle_etiquette(r));
+            QLabel* e = reserve.etiquettes[k++];
+            ui::place(*e, {et.left, et.top, et.width, et.height});
+            e->setText(et.legende);
+            QPalette p = e->palette();
+            p.setColor(QPalette::Window, ui::couleur(et.couleur));
+            e->setPalette(p);
+            e->setFrameStyle(et.bordure ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+            e->setProperty("indice", i);
+            e->show();
+        }
+    }
+    for (; k < reserve.etiquettes.size(); ++k)
+        reserve.etiquettes[k]->hide();
+}
+
+void Torva1Vue::clic_etiquette(int r, int i) {
+    if (r == reserve_g)
+        l_.lrv_Click(i);
+    else if (r == reserve_d)
+        l_.lrvd_Click(i);
+    else
+        l_.lrvs_Click(r - reserve_bande, i);
+}
+
+QLabel* Torva1Vue::nouvelle_etiquette(int r) {
+    auto* e = new QLabel(reserves_[std::size_t(r)].parent);
+    e->setProperty("reserve", r);
+    // A strip gives an hour 175 twips: its labels keep one line, centred on their height.
+    const bool bande = r >= reserve_bande;
+    e->setWordWrap(!bande);
+    e->setAlignment(Qt::AlignLeft | (bande ? Qt::AlignVCenter : Qt::AlignTop));
+    e->setFont(ui::police(QStringLiteral("Arial"), bande ? 7 : 8));
     e->setAutoFillBackground(true);
     QPalette p = e->palette();
     p.setColor(QPalette::WindowText, Qt::black);
@@ -211,9 +431,23 @@ QLabel* Torva1Vue::nouvelle_etiquette(bool gauche) {
 }
 
 bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
-    if (o == label7_ && e->type() == QEvent::MouseButtonRelease) {
-        apres_le_clic([this] { l_.Label7_Click(); });
-        return true;
+    if (e->type() == QEvent::MouseButtonRelease) {
+        if (o == label7_) {
+            apres_le_clic([this] { l_.Label7_Click(); });
+            return true;
+        }
+        if (o == text3_) {
+            apres_le_clic([this] { l_.Text3_Click(); });
+            return true;
+        }
+        if (o == label9_ || o == label8_) {
+            appelle([&] { o == label9_ ? l_.Picture7_Click() : l_.Picture8_Click(); });
+            return true;
+        }
+        if (o == label5_ || o == label6_) {
+            apres_le_clic([this, o] { o == label5_ ? l_.Label5_Click() : l_.Label6_Click(); });
+            return true;
+        }
     }
     // A click on a label is the label's, not the page's beneath it.
     if (!o->property("indice").isValid()) return QWidget::eventFilter(o, e);
@@ -221,9 +455,8 @@ bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
     if (e->type() == QEvent::MouseButtonRelease) {
         const auto* w = static_cast<QWidget*>(o);
         if (w->rect().contains(static_cast<QMouseEvent*>(e)->position().toPoint())) {
-            const int i = o->property("indice").toInt();
-            const bool gauche = o->parent() == pageg_;
-            apres_le_clic([this, i, gauche] { gauche ? l_.lrv_Click(i) : l_.lrvd_Click(i); });
+            const int i = o->property("indice").toInt(), r = o->property("reserve").toInt();
+            apres_le_clic([this, r, i] { clic_etiquette(r, i); });
         }
         return true;
     }

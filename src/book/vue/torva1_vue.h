@@ -7,13 +7,16 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <memory>
 #include <QWidget>
+#include <tuple>
 #include <vector>
 
 class QCalendarWidget;
 class QLabel;
 class QPushButton;
+class QTableWidget;
 class QToolButton;
 
 namespace agenda {
@@ -46,9 +49,38 @@ private:
     QLabel *label1_, *label2_, *label3_, *label4_, *label7_;
     QCalendarWidget* calend_;
     QToolButton *picture2_, *picture3_;
-    std::vector<QWidget*> vue_jour_; // what only the day view shows
-    QLabel* nouvelle_etiquette(bool gauche);
-    std::vector<QLabel*> etiquettes_g_, etiquettes_d_; // lrv and lrvd, kept from day to day
+    std::vector<QWidget*> vue_jour_;    // what only the day view shows
+    std::vector<QWidget*> vue_semaine_; // what only the week view shows
+
+    // The labels of a page or a strip, kept from one showing to the next: lrv, lrvd, then the
+    // strips' lrv0 to lrv6.
+    struct Reserve {
+        QWidget* parent;
+        std::vector<QLabel*> etiquettes;
+    };
+    static constexpr int reserve_g = 0, reserve_d = 1, reserve_bande = 2;
+    std::array<Reserve, 2 + Torva1::nb_bandes> reserves_{};
+    void montre_etiquettes(int reserve, const std::map<int, EtiquetteRv>* etiquettes);
+    QLabel* nouvelle_etiquette(int reserve);
+    void clic_etiquette(int reserve, int i);
+
+    // The week view.
+    void construit_semaine();
+    void montre_semaine(bool visible);
+    std::array<ui::VueSurface*, Torva1::nb_bandes> pages_{};
+    std::array<QLabel*, Torva1::nb_bandes> njours_{};
+    QLabel* text3_ = nullptr;
+
+    // The year view.
+    void construit_annee();
+    void montre_annee();
+    QLabel* picture6_ = nullptr;
+    std::array<QTableWidget*, 12> g1_{};
+    std::array<QLabel*, 12> label111_{};
+    QLabel *label222_ = nullptr, *label8_ = nullptr, *label9_ = nullptr, *label5_ = nullptr,
+           *label6_ = nullptr;
+    int dessin_annee_montre_ = -1;
+    std::tuple<int, int, std::int32_t> feries_montres_{}; // year, month and colour shown
 };
 
 } // namespace agenda

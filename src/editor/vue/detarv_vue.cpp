@@ -24,12 +24,8 @@ namespace {
 
 using ui::RectTwips;
 
-QString crlf_vers_ecran(QString s) {
-    return s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-}
-QString ecran_vers_crlf(QString s) {
-    return s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-}
+using ui::crlf_vers_ecran;
+using ui::ecran_vers_crlf;
 
 } // namespace
 
@@ -69,11 +65,8 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     l_.focus_texte = [this] { text1_->setFocus(); };
     text1_->viewport()->installEventFilter(this);
 
-    picture1_ = new QLabel(this);
-    ui::place(*picture1_, Detarv::Picture1_rect);
-    picture1_->setPixmap(ui::icc::palette(picture1_->size()));
-    picture1_->setCursor(Qt::CrossCursor);
-    picture1_->installEventFilter(this);
+    ui::palette(*this, Detarv::Picture1_rect,
+                [this](std::int32_t c) { appelle([&] { l_.Picture1_MouseDown(c); }); });
 
     check1_ = new QCheckBox(QStringLiteral("Encadrement"), this);
     ui::place(*check1_, Detarv::Check1_rect);
@@ -217,13 +210,6 @@ bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
         (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::MouseButtonRelease)) {
         if (e->type() == QEvent::MouseButtonRelease)
             apres_le_clic([this, texte] { texte ? l_.Text1_Click() : l_.Text2_Click(); });
-        return true;
-    }
-    if (o == picture1_ && e->type() == QEvent::MouseButtonPress) {
-        const QPoint p = static_cast<QMouseEvent*>(e)->position().toPoint();
-        const QImage image = picture1_->pixmap().toImage();
-        if (image.valid(p))
-            appelle([&] { l_.Picture1_MouseDown(ui::bbggrr(image.pixelColor(p))); });
         return true;
     }
     return QDialog::eventFilter(o, e);

@@ -40,7 +40,7 @@ private:
 
     Detarv& l_;
     ui::Surface aiguilles_;
-    QLabel *label4_, *label13_, *picture1_, *label15_, *label9_;
+    QLabel *label4_, *label13_, *label15_, *label9_;
     QPlainTextEdit* text1_;
     QCheckBox* check1_;
     QLineEdit *text2_, *label7_;

@@ -94,15 +94,10 @@ ToroutilsVue::ToroutilsVue(Toroutils& l)
     ui::libelle(*this, {4400, 4650, 3600, 600},
                 QStringLiteral("Couleur de la grande aiguille  (minutes) "),
                 ui::police(QStringLiteral("DejaVu Sans"), 9, false));
-    picture1_ = new QLabel(this);
-    picture2_ = new QLabel(this);
-    for (auto [p, r] : {std::pair(picture1_, Toroutils::Picture1_rect),
-                        std::pair(picture2_, Toroutils::Picture2_rect)}) {
-        ui::place(*p, r);
-        p->setPixmap(ui::icc::palette(p->size()));
-        p->setCursor(Qt::CrossCursor);
-        p->installEventFilter(this);
-    }
+    ui::palette(*this, Toroutils::Picture1_rect,
+                [this](std::int32_t c) { appelle([&] { l_.Picture1_MouseDown(c); }); });
+    ui::palette(*this, Toroutils::Picture2_rect,
+                [this](std::int32_t c) { appelle([&] { l_.Picture2_MouseDown(c); }); });
     label5_ = ui::libelle(*this, {400, 6350, 3600, 350}, {},
                           ui::police(QStringLiteral("DejaVu Sans"), 8, false));
     label8_ = ui::libelle(*this, {4400, 6350, 3600, 350}, {},
@@ -192,19 +187,6 @@ ToroutilsVue::ToroutilsVue(Toroutils& l)
         combo3_->addItems(l_.Combo3_liste);
     }
     montre();
-}
-
-bool ToroutilsVue::eventFilter(QObject* o, QEvent* e) {
-    if ((o == picture1_ || o == picture2_) && e->type() == QEvent::MouseButtonPress) {
-        const QPoint p = static_cast<QMouseEvent*>(e)->position().toPoint();
-        const QImage image = static_cast<QLabel*>(o)->pixmap().toImage();
-        if (image.valid(p)) {
-            const std::int32_t c = ui::bbggrr(image.pixelColor(p));
-            appelle([&] { o == picture1_ ? l_.Picture1_MouseDown(c) : l_.Picture2_MouseDown(c); });
-        }
-        return true;
-    }
-    return QDialog::eventFilter(o, e);
 }
 
 void ToroutilsVue::montre() {

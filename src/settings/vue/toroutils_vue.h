@@ -21,16 +21,13 @@ class ToroutilsVue : public ui::VueModale {
 public:
     explicit ToroutilsVue(Toroutils& logique);
 
-protected:
-    bool eventFilter(QObject* o, QEvent* e) override;
-
 private:
     void montre() override;
 
     Toroutils& l_;
     std::array<QComboBox*, 3> combo1_{};
     QComboBox *combo2_, *combo3_;
-    QLabel *label4_, *label5_, *label8_, *label7_, *picture1_, *picture2_;
+    QLabel *label4_, *label5_, *label8_, *label7_;
     QFrame *shape2_, *aiguilh_, *aiguilm_;
     QTableWidget* g1_;
     QCheckBox* check1_;

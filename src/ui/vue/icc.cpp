@@ -176,6 +176,21 @@ QPixmap page(QSize t, bool gauche) {
     });
 }
 
+QPixmap feuille(QSize t) {
+    return dessin(QStringLiteral("feuille"), t, [&](QPainter& g) {
+        const QRectF r(1, 1, t.width() - 2.0, t.height() - 2.0);
+        const qreal coin = std::min(t.width(), t.height()) / 40.0;
+        // A thin shadow on the right and below: the sheet lies on the page.
+        g.setPen(Qt::NoPen);
+        g.setBrush(QColor(0x5a, 0x3a, 0x22, 40));
+        g.drawRoundedRect(r.translated(1, 1), coin, coin);
+        g.setBrush(papier.lighter(102));
+        g.setPen(QPen(papier_ombre.darker(115), 1));
+        g.drawRoundedRect(r.adjusted(0, 0, -1, -1), coin, coin);
+        grain(g, t, 60, QColor(0x80, 0x60, 0x30));
+    });
+}
+
 QPixmap reliure(QSize t) {
     return garde(QStringLiteral("reliure"), t, [&] {
         QPixmap p = vierge(t);

@@ -18,7 +18,9 @@ QPixmap couverture(QSize taille); // the leather under the open book
 // A page, its gutter towards the spine; drawn anew at each call, for the page surfaces keep
 // what they show.
 QPixmap page(QSize taille, bool gauche);
-QPixmap reliure(QSize taille);     // Picture1, the spine between the pages
+QPixmap reliure(QSize taille); // Picture1, the spine between the pages
+QPixmap feuille(QSize taille); // a sheet laid on the pages: a week's day, the year
+
 QPixmap p11g(int i, QSize taille); // a tab title on the left edge (0 to 5)
 QPixmap p11d(int i, QSize taille); // the same on the right edge
 QPixmap fleche(bool vers_la_gauche, QSize taille);

@@ -42,6 +42,12 @@ void pose_fenetre_principale(QWidget* fenetre) {
     pile().front() = fenetre;
 }
 
+void place_sur_le_livre(QWidget& fenetre, int x, int y) {
+    const QWidget* livre = pile().front();
+    const QPoint origine = livre ? livre->mapToGlobal(QPoint(0, 0)) : QPoint(0, 0);
+    fenetre.move(origine + QPoint(px(x), px(y)));
+}
+
 void au_premier_plan() {
     for (QWidget* w : pile())
         if (w) w->raise();

@@ -34,6 +34,8 @@ private:
 
 // The main window: the bottom of the windows on show.
 void pose_fenetre_principale(QWidget* fenetre);
+// Moves a window to a point given in twips of the main window.
+void place_sur_le_livre(QWidget& fenetre, int x, int y);
 // The main window to the front, and every modal window it opened still above it.
 void au_premier_plan();
 

@@ -118,6 +118,42 @@ void pose_cadre(QWidget& fenetre, int coin) {
 
 } // namespace
 
+namespace {
+
+class Palette : public QLabel {
+public:
+    Palette(QWidget& parent, std::function<void(std::int32_t)> clic)
+        : QLabel(&parent), clic_(std::move(clic)) {}
+
+protected:
+    void mousePressEvent(QMouseEvent* e) override {
+        const QPoint p = e->position().toPoint();
+        const QImage image = pixmap().toImage();
+        if (image.valid(p)) clic_(bbggrr(image.pixelColor(p)));
+    }
+
+private:
+    std::function<void(std::int32_t)> clic_;
+};
+
+} // namespace
+
+QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int32_t)> clic) {
+    auto* p = new Palette(parent, std::move(clic));
+    place(*p, r);
+    p->setPixmap(icc::palette(p->size()));
+    p->setCursor(Qt::CrossCursor);
+    return p;
+}
+
+QString crlf_vers_ecran(QString s) {
+    return s.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+QString ecran_vers_crlf(QString s) {
+    return s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
+
 QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police) {
     auto* l = new QLabel(texte, &parent);
     place(*l, r);

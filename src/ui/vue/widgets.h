@@ -5,6 +5,7 @@
 #include "ui/geometrie.h"
 #include "ui/surface.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <QPixmap>
@@ -43,6 +44,14 @@ private:
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QPixmap rendu_;                  // the background with the drawing on it
 };
+
+// The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,
+// read from the pixel under the pointer, as the files keep colours.
+QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int32_t)> clic);
+
+// Line breaks as the files keep them (CR LF) and as a text widget holds them (LF).
+QString crlf_vers_ecran(QString s);
+QString ecran_vers_crlf(QString s);
 
 // A caption at a rectangle in twips, wrapped to its width.
 QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police);

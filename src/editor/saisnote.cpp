@@ -1,0 +1,81 @@
+#include "editor/saisnote.h"
+
+#include "data/dossier.h"
+#include "data/etat.h"
+#include "data/fichier_records.h"
+#include "data/formats.h"
+#include "data/record.h"
+#include "data/rendez_vous.h"
+#include "data/texte.h"
+#include "input/mini_97.h"
+#include "ui/systeme.h"
+
+namespace agenda {
+
+void Saisnote::Form_Load() {
+    left = etat.note_x;
+    top = etat.note_y;
+    ouvre_notes();
+    etat.num_note = 0;
+    // The first note under the key: two stand under one only when two workstations created it
+    // at the same moment.
+    if (const std::int32_t n = cherche_note(etat.cle_note); n > 0) {
+        const RecRv note = lit_record<RecRv>(canal::notes, std::int64_t(n) + 1);
+        Text1 = sans_blancs(note.lit(RecRv::texte_rv));
+        Text1_encre = note.lit(RecRv::encadre_rv);
+        Text1_fond = note.lit(RecRv::couleur_rv);
+        etat.num_note = en_i16(n, QStringLiteral("le numéro de la note"));
+    }
+    canal_fichier(canal::notes).ferme();
+}
+
+void Saisnote::bt_ok_Click() {
+    if (!frein_du_clic()) return;
+    etat.texte_note = sans_blancs(Text1);
+    if (!etat.texte_note.isEmpty() || etat.num_note != 0) {
+        ouvre_notes();
+        auto& f = canal_fichier(canal::notes);
+        if (etat.num_note != 0) {
+            // The key stays; an emptied text is written blank and the note is found again.
+            const std::int64_t r = std::int64_t(etat.num_note) + 1;
+            RecRv note = lit_record<RecRv>(f, r);
+            note.pose(RecRv::texte_rv, etat.texte_note);
+            note.pose(RecRv::couleur_rv, Text1_fond);
+            note.pose(RecRv::encadre_rv, Text1_encre);
+            ecrit_record(f, r, note);
+            ui::cede();
+        } else {
+            const std::int64_t records = f.records();
+            RecRv entete = lit_record<RecRv>(f, 1);
+            const std::int32_t n = numero_suivant(entete.lit(RecRv::dernier_num), records);
+            entete.pose(RecRv::dernier_num, n);
+            ecrit_record(f, 1, entete);
+            ui::cede();
+            // The whole note in one write, appended: two workstations that drew the same number
+            // get two records, and the scan finds the first.
+            RecRv note;
+            note.pose(RecRv::cle_rv, etat.cle_note);
+            note.pose(RecRv::texte_rv, etat.texte_note);
+            note.pose(RecRv::couleur_rv, Text1_fond);
+            note.pose(RecRv::encadre_rv, Text1_encre);
+            note.pose(RecRv::fin_rec, u"\r\n");
+            etat.num_note = en_i16(double(f.ajoute(note.octets, std::int64_t(n) + 1) - 1),
+                                   QStringLiteral("le numéro de la note"));
+            ui::cede();
+        }
+    }
+    etat.num_note = 0;
+    canal_fichier(canal::notes).ferme();
+    ui::cede();
+    ferme();
+    ui::cede();
+}
+
+void Saisnote::bt_annul_Click() {
+    if (demande(QStringLiteral("Confirmez l'annulation de cette note ?"), 4) != 6) return;
+    Text1.clear();
+    ui::cede();
+    bt_ok_Click();
+}
+
+} // namespace agenda

@@ -16,6 +16,7 @@
 #include "data/texte.h"
 #include "editor/detarv.h"
 #include "editor/inter.h"
+#include "editor/saisnote.h"
 #include "input/mini_97.h"
 #include "planning/torva11.h"
 #include "search/torvar.h"
@@ -93,6 +94,13 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     cherche_note(QStringLiteral("JO:040303"));
     alloue_numero(canal_fichier(canal::rv));
     charge_journee();
+    scan_semaine(canal_fichier(canal::rv), etat.date_courante - 2);
+    // The week's note read and written over the same bytes.
+    etat.cle_note = QStringLiteral("SE:040301");
+    Saisnote note;
+    note.Form_Load();
+    note.Text1 += QStringLiteral(" et suite");
+    note.bt_ok_Click();
     // The planning's column of collaborator 0, and the search over the same bytes.
     etat.nb_collab = 1;
     etat.noms_collab[1] = QStringLiteral("00 : Zero");

@@ -49,6 +49,7 @@ done
 # against a bare one.
 "$racine/build-test/bench/agenda_bench" --benchmark_min_time=0.2 2>&1 | grep -E "median|séq"
 "$racine/build-test/bench/agenda_bench_clients" 2>&1 | grep -E "median|séq"
+"$racine/build-test/bench/agenda_bench_semaine" 2>&1 | grep -E "median|séq"
 "$racine/build-test/bench/agenda_bench_collaborateurs" 2>&1 | grep -E "median|séq|peinture"
 for banc in agenda_bench_fenetres agenda_bench_demarrage; do
     # On the X server, not offscreen: there a bare window costs nothing and the ratios mean little.

@@ -8,7 +8,12 @@
 namespace agenda::ui {
 
 namespace {
-const QDate origine(1899, 12, 30);
+// Made at its first use: dates of other files' static objects may be computed before this
+// file's statics are.
+QDate origine() {
+    static const QDate o(1899, 12, 30);
+    return o;
+}
 
 const std::array<const char*, 7> jours = {"dimanche", "lundi",    "mardi", "mercredi",
                                           "jeudi",    "vendredi", "samedi"};
@@ -18,7 +23,7 @@ const std::array<const char*, 12> mois = {"janvier",   "février", "mars",     "
 } // namespace
 
 Date date_de(QDate jour) {
-    return static_cast<Date>(origine.daysTo(jour));
+    return static_cast<Date>(origine().daysTo(jour));
 }
 
 Date date_de(const QDateTime& instant) {
@@ -26,7 +31,7 @@ Date date_de(const QDateTime& instant) {
 }
 
 QDate jour_de(Date d) {
-    return origine.addDays(static_cast<qint64>(std::floor(d)));
+    return origine().addDays(static_cast<qint64>(std::floor(d)));
 }
 
 Date date_maintenant() {

@@ -250,14 +250,17 @@ void Torva1::calend_Click(Date jour) {
     sel_onglet(0);
 }
 
+void Torva1::avance(int jours, int vue) {
+    etat.date_courante += jours;
+    sel_onglet(vue);
+}
+
 void Torva1::Picture2_Click() {
-    etat.date_courante -= 1;
-    sel_onglet(0);
+    avance(-1, 0);
 }
 
 void Torva1::Picture3_Click() {
-    etat.date_courante += 1;
-    sel_onglet(0);
+    avance(1, 0);
 }
 
 void Torva1::pageg_MouseDown(int x, int y) {
@@ -517,13 +520,11 @@ void Torva1::lit_note_semaine() {
 }
 
 void Torva1::picture4_Click() {
-    etat.date_courante -= 7;
-    sel_onglet(1);
+    avance(-7, 1);
 }
 
 void Torva1::Picture5_Click() {
-    etat.date_courante += 7;
-    sel_onglet(1);
+    avance(7, 1);
 }
 
 void Torva1::pages_Click(int k) {
@@ -625,14 +626,8 @@ void Torva1::decod_annee() {
     ui::pose_pointeur(ui::Pointeur::fleche);
 }
 
-void Torva1::Picture7_Click() {
-    etat.annee_courante -= 1;
-    etat.date_courante = ui::date_de(QDate(int(etat.annee_courante), 1, 1));
-    decod_annee();
-}
-
-void Torva1::Picture8_Click() {
-    etat.annee_courante += 1;
+void Torva1::change_annee(int ecart) {
+    etat.annee_courante += ecart;
     etat.date_courante = ui::date_de(QDate(int(etat.annee_courante), 1, 1));
     decod_annee();
 }

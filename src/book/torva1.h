@@ -97,8 +97,8 @@ public:
 
     // Year view: twelve month grids on Picture6.
     void decod_annee();
-    void Picture7_Click(); // the year before, as Label9_Click
-    void Picture8_Click(); // the year after, as Label8_Click
+    void Picture7_Click() { change_annee(-1); } // the year before, as Label9_Click
+    void Picture8_Click() { change_annee(1); }  // the year after, as Label8_Click
     void g1_Click(int mois, int ligne, int colonne);
     void Label5_Click(); // the holidays' colour
     void Label6_Click(); // the appointment days' colour
@@ -200,6 +200,10 @@ private:
     // Places a label for an entry of a day list at the scale and origin of page base `b`.
     void place_etiquette(EtiquetteRv& et, const QString& entree, int b);
     void clic_page(int base, int x, int y);
+    // So many days on, and a view shown: the day and week arrows.
+    void avance(int jours, int vue);
+    // A year before or after: its 1 January, and the year drawn.
+    void change_annee(int ecart);
     // The note of the key in the note file into Text3; blank, it shows in the design colours.
     void lit_note_semaine();
     // The colour of a sample from the parameter store, where it holds one.

@@ -70,7 +70,7 @@ struct DebutCle {
 
 } // namespace
 
-std::int32_t alloue_numero(FichierRecords& f) {
+std::int32_t ajoute_numerote(FichierRecords& f, const RecRv& rec) {
     // Nothing between the read and the write of the header, not even a look at the file's
     // length: another workstation may be drawing at the same moment.
     const std::int64_t records = f.records();
@@ -83,9 +83,13 @@ std::int32_t alloue_numero(FichierRecords& f) {
     // drawing: two that drew the same number get two places, one after the other, instead of
     // one over the other. The number is the place the record took; a header left behind is
     // brought into line by the next day scan.
+    return en_i32(double(f.ajoute(rec.octets, std::int64_t(n) + 1) - 1));
+}
+
+std::int32_t alloue_numero(FichierRecords& f) {
     RecRv vide;
     vide.pose(RecRv::fin_rec, u"\r\n");
-    return en_i32(double(f.ajoute(vide.octets, std::int64_t(n) + 1) - 1));
+    return ajoute_numerote(f, vide);
 }
 
 std::int32_t repare_entete(FichierRecords& f) {

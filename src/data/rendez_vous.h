@@ -13,9 +13,12 @@
 namespace agenda {
 
 class FichierRecords;
+struct RecRv;
 
-// Raises dernier_num of record 1 and writes an empty record for the new number, which it
-// returns.
+// Raises dernier_num of record 1, then writes the record for the new number in one write;
+// returns the number.
+std::int32_t ajoute_numerote(FichierRecords& f, const RecRv& rec);
+// The same with an empty record: an appointment's place, before its fields are written.
 std::int32_t alloue_numero(FichierRecords& f);
 
 // Brings a header that lags behind the file's length back into line; returns the count.

@@ -35,34 +35,24 @@ void Saisnote::bt_ok_Click() {
     if (!etat.texte_note.isEmpty() || etat.num_note != 0) {
         ouvre_notes();
         auto& f = canal_fichier(canal::notes);
-        if (etat.num_note != 0) {
-            // The key stays; an emptied text is written blank and the note is found again.
-            const std::int64_t r = std::int64_t(etat.num_note) + 1;
-            RecRv note = lit_record<RecRv>(f, r);
-            note.pose(RecRv::texte_rv, etat.texte_note);
-            note.pose(RecRv::couleur_rv, Text1_fond);
-            note.pose(RecRv::encadre_rv, Text1_encre);
+        // A note is changed in its record, read again, and its key stays; an emptied text is
+        // written blank and the note is found again. A new one is written whole in one write
+        // after the header: two workstations that drew the same number get two records, and
+        // the scan finds the first.
+        const std::int64_t r = etat.num_note != 0 ? std::int64_t(etat.num_note) + 1 : 0;
+        RecRv note = r != 0 ? lit_record<RecRv>(f, r) : RecRv();
+        note.pose(RecRv::texte_rv, etat.texte_note);
+        note.pose(RecRv::couleur_rv, Text1_fond);
+        note.pose(RecRv::encadre_rv, Text1_encre);
+        if (r != 0) {
             ecrit_record(f, r, note);
-            ui::cede();
         } else {
-            const std::int64_t records = f.records();
-            RecRv entete = lit_record<RecRv>(f, 1);
-            const std::int32_t n = numero_suivant(entete.lit(RecRv::dernier_num), records);
-            entete.pose(RecRv::dernier_num, n);
-            ecrit_record(f, 1, entete);
-            ui::cede();
-            // The whole note in one write, appended: two workstations that drew the same number
-            // get two records, and the scan finds the first.
-            RecRv note;
             note.pose(RecRv::cle_rv, etat.cle_note);
-            note.pose(RecRv::texte_rv, etat.texte_note);
-            note.pose(RecRv::couleur_rv, Text1_fond);
-            note.pose(RecRv::encadre_rv, Text1_encre);
             note.pose(RecRv::fin_rec, u"\r\n");
-            etat.num_note = en_i16(double(f.ajoute(note.octets, std::int64_t(n) + 1) - 1),
-                                   QStringLiteral("le numéro de la note"));
-            ui::cede();
+            etat.num_note =
+                en_i16(ajoute_numerote(f, note), QStringLiteral("le numéro de la note"));
         }
+        ui::cede();
     }
     etat.num_note = 0;
     canal_fichier(canal::notes).ferme();

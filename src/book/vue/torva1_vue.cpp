@@ -30,6 +30,21 @@ QString teinte(std::int32_t bbggrr) {
     return ui::couleur(bbggrr).name();
 }
 
+// A framed box in colours of its own, whose click goes through the view's event filter.
+QLabel* boite(QWidget* parent, const ui::RectTwips& r, double points, Qt::Alignment a,
+              const QString& aide, QObject* filtre) {
+    auto* l = new QLabel(parent);
+    ui::place(*l, r);
+    l->setAlignment(a);
+    l->setFont(ui::police(QStringLiteral("DejaVu Sans"), points));
+    l->setAutoFillBackground(true);
+    l->setFrameStyle(QFrame::Box | QFrame::Plain);
+    l->setCursor(Qt::PointingHandCursor);
+    l->setToolTip(aide);
+    l->installEventFilter(filtre);
+    return l;
+}
+
 void fond_de(QWidget& w, std::int32_t fond, std::int32_t encre) {
     QPalette p = w.palette();
     p.setColor(QPalette::Window, ui::couleur(fond));
@@ -185,17 +200,11 @@ void Torva1Vue::construit_semaine() {
         vue_semaine_.insert(vue_semaine_.end(), {bande, nom, ligne});
     }
 
-    text3_ = new QLabel(paged_);
-    ui::place(*text3_, Torva1::Text3_rect);
+    text3_ = boite(paged_, Torva1::Text3_rect, 10, Qt::AlignLeft | Qt::AlignTop,
+                   QStringLiteral("Écrire la note de la semaine"), this);
     text3_->setWordWrap(true);
-    text3_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     text3_->setMargin(ui::px(60));
-    text3_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
-    text3_->setAutoFillBackground(true);
-    text3_->setFrameStyle(QFrame::Box | QFrame::Plain);
     text3_->setCursor(Qt::IBeamCursor);
-    text3_->setToolTip(QStringLiteral("Écrire la note de la semaine"));
-    text3_->installEventFilter(this);
     auto* label10 = texte(paged_, Torva1::Label10_rect, 11, false, Qt::AlignCenter);
     label10->setText(QStringLiteral("Note de la semaine"));
     QToolButton* picture4 = ui::fleche_jour(*paged_, Torva1::picture4_rect, true,
@@ -271,15 +280,9 @@ void Torva1Vue::construit_annee() {
 
     // The colour samples; a click changes the colour.
     const auto echantillon = [this](const ui::RectTwips& r, const QString& nom) {
-        auto* l = new QLabel(nom, picture6_);
-        ui::place(*l, r);
-        l->setAlignment(Qt::AlignCenter);
-        l->setFont(ui::police(QStringLiteral("DejaVu Sans"), 9));
-        l->setAutoFillBackground(true);
-        l->setFrameStyle(QFrame::Box | QFrame::Plain);
-        l->setCursor(Qt::PointingHandCursor);
-        l->setToolTip(QStringLiteral("Changer la couleur"));
-        l->installEventFilter(this);
+        QLabel* l =
+            boite(picture6_, r, 9, Qt::AlignCenter, QStringLiteral("Changer la couleur"), this);
+        l->setText(nom);
         return l;
     };
     label5_ = echantillon(Torva1::Label5_rect, QStringLiteral("Jours fériés"));

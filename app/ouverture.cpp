@@ -16,6 +16,7 @@
 #include "ui/erreur.h"
 #include "ui/systeme.h"
 #include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -48,6 +49,9 @@ void enregistre_fenetres() {
 
 std::unique_ptr<Programme> ouvre_programme() {
     QApplication::setApplicationName(QStringLiteral("Agenda"));
+    QApplication::setWindowIcon(ui::icc::icone(QSize(256, 256)));
+    // The window manager finds the menu entry, and its icon, by this name.
+    QGuiApplication::setDesktopFileName(QStringLiteral("fr.agenda.Agenda"));
     ui::echelle_pour_ecran(QGuiApplication::primaryScreen());
     // Where a screen can show it: on the offscreen platform nobody could close the window.
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))

@@ -115,7 +115,8 @@ public:
         Label1_rect{800, 2700, 2700, 450}, calend_rect{3500, 250, 2900, 3100};
     static constexpr ui::RectTwips Label7_rect{800, 250, 5400, 600};
     static constexpr ui::RectTwips Picture2_rect{800, 10300, 600, 500},
-        Picture3_rect{5600, 10300, 600, 500}, bt_out_rect{800, 10300, 500, 500};
+        Picture3_rect{5600, 10300, 600, 500}, bt_out_rect{800, 10300, 500, 500},
+        bt_imprime_rect{1400, 10300, 500, 500};
 
     // The week view: strips 0 to 3 on the left page, 4 to 6 on the right, each under its
     // heading; the note under the Sunday, the week arrows and the note's caption above it.

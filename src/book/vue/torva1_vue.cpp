@@ -7,7 +7,10 @@
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"
 
+#include "book/vue/impression.h"
 #include "calendar/calendrier.h"
+#include "data/texte.h"
+#include "ui/dates.h"
 
 #include <QCalendarWidget>
 #include <QFontMetrics>
@@ -16,6 +19,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextCharFormat>
@@ -156,11 +160,22 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             [this] { apres_le_clic([this] { l_.bt_out_Click(); }); });
     connect(&l_, &Torva1::cache, this, [this](bool oui) { setVisible(!oui); });
 
+    auto* bt_imprime = new QToolButton(paged_);
+    ui::place(*bt_imprime, Torva1::bt_imprime_rect);
+    bt_imprime->setObjectName(QStringLiteral("bt_imprime"));
+    bt_imprime->setAutoRaise(true);
+    bt_imprime->setCursor(Qt::PointingHandCursor);
+    bt_imprime->setIcon(ui::icc::imprimante(bt_imprime->size()));
+    bt_imprime->setIconSize(bt_imprime->size());
+    bt_imprime->setToolTip(QStringLiteral("Imprimer la journée"));
+    connect(bt_imprime, &QToolButton::clicked, this,
+            [this] { apres_le_clic([this] { imprime(); }); });
+
     connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
 
-    // The title and the cog stand where the week lays its strips and its note.
+    // The title and the buttons stand where the week lays its strips and its note.
     vue_jour_ = {label1_, label2_,   label3_,   label4_, label7_,
-                 calend_, picture2_, picture3_, bt_out};
+                 calend_, picture2_, picture3_, bt_out,  bt_imprime};
     reserves_[reserve_g].parent = pageg_;
     reserves_[reserve_d].parent = paged_;
     construit_semaine();
@@ -174,6 +189,16 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
 
 Torva1Vue::~Torva1Vue() {
     ui::pose_fenetre_principale(nullptr);
+}
+
+void Torva1Vue::imprime() {
+    QPrinter imprimante(QPrinter::HighResolution);
+    const QString titre =
+        l_.Label7 + QStringLiteral(" — ") +
+        initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
+    imprimante.setPageOrientation(QPageLayout::Landscape);
+    imprimante.setPageSize(QPageSize(QPageSize::A4));
+    if (ui::dialogue_impression(imprimante, this)) imprime_jour(imprimante, l_, titre);
 }
 
 void Torva1Vue::construit_semaine() {

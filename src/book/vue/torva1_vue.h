@@ -30,6 +30,8 @@ class Torva1Vue : public QWidget, public ui::Vue {
 public:
     explicit Torva1Vue(Torva1& logique);
     ~Torva1Vue() override;
+    // The day on show, on paper or in a PDF file, through the print dialog.
+    void imprime();
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;

@@ -176,6 +176,53 @@ QPixmap page(QSize t, bool gauche) {
     });
 }
 
+QPixmap icone(QSize t) {
+    return dessin(QStringLiteral("icone"), t, [&](QPainter& g) {
+        // Drawn on a 256 grid: the open book seen from above, on its leather boards.
+        g.scale(t.width() / 256.0, t.height() / 256.0);
+        g.setPen(Qt::NoPen);
+        QLinearGradient cuir(0, 40, 0, 220);
+        cuir.setColorAt(0, cuir_clair);
+        cuir.setColorAt(1, cuir_fonce);
+        g.setBrush(cuir);
+        g.drawRoundedRect(QRectF(8, 44, 240, 172), 18, 18);
+        g.setPen(QPen(or_vieux, 3));
+        g.setBrush(Qt::NoBrush);
+        g.drawRoundedRect(QRectF(15, 51, 226, 158), 13, 13);
+        // The two pages, curving down into the spine.
+        for (const bool gauche : {true, false}) {
+            const qreal x = gauche ? 22 : 234, s = gauche ? 1 : -1;
+            QPainterPath page;
+            page.moveTo(x, 58);
+            page.quadTo(x + s * 52, 48, 128, 62);
+            page.lineTo(128, 206);
+            page.quadTo(x + s * 52, 192, x, 202);
+            page.closeSubpath();
+            QLinearGradient lg(x, 0, 128, 0);
+            lg.setColorAt(0, papier);
+            lg.setColorAt(0.85, papier);
+            lg.setColorAt(1, papier_ombre);
+            g.setPen(QPen(papier_ombre.darker(120), 1.5));
+            g.setBrush(lg);
+            g.drawPath(page);
+            // The day's ruling, and a label at its hour.
+            g.setPen(QPen(QColor(0xc0, 0xc0, 0xc0), 2));
+            for (int i = 0; i < 6; ++i) {
+                const qreal y = 86 + i * 20;
+                g.drawLine(QPointF(x + s * 14, y), QPointF(128 - s * 14, y + 2));
+            }
+        }
+        g.setPen(Qt::NoPen);
+        g.setBrush(QColor(0xc0, 0xe0, 0xff));
+        g.drawRect(QRectF(40, 108, 70, 18));
+        g.setBrush(QColor(0xff, 0xc0, 0xc0));
+        g.drawRect(QRectF(146, 88, 70, 38));
+        // The ribbon over the spine.
+        g.setBrush(QColor(0xa0, 0x18, 0x20));
+        g.drawPolygon(QPolygonF{{124, 60}, {134, 60}, {134, 236}, {129, 228}, {124, 236}});
+    });
+}
+
 QPixmap feuille(QSize t) {
     return dessin(QStringLiteral("feuille"), t, [&](QPainter& g) {
         const QRectF r(1, 1, t.width() - 2.0, t.height() - 2.0);
@@ -645,6 +692,26 @@ QPixmap internet(QSize t) {
 } // namespace agenda::ui::icc
 
 namespace agenda::ui::icc {
+
+QPixmap imprimante(QSize t) {
+    return dessin(QStringLiteral("imprimante"), t, [&](QPainter& g) {
+        g.scale(t.width() / 100.0, t.height() / 100.0);
+        g.setPen(QPen(encre, 3));
+        // The sheet going in, the body, the printed sheet coming out.
+        g.setBrush(papier);
+        g.drawRect(QRectF(28, 10, 44, 30));
+        g.setBrush(cuir_clair);
+        g.drawRoundedRect(QRectF(12, 36, 76, 34), 6, 6);
+        g.setBrush(papier);
+        g.drawRect(QRectF(24, 58, 52, 32));
+        g.setPen(QPen(papier_ombre.darker(140), 3));
+        for (const qreal y : {68.0, 76.0, 84.0})
+            g.drawLine(QPointF(32, y), QPointF(68, y));
+        g.setPen(Qt::NoPen);
+        g.setBrush(or_vieux);
+        g.drawEllipse(QPointF(78, 46), 4, 4);
+    });
+}
 
 QPixmap reglages(QSize t) {
     return dessin(QStringLiteral("reglages"), t, [&](QPainter& g) {

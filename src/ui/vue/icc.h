@@ -15,6 +15,7 @@ class QPainter;
 namespace agenda::ui::icc {
 
 QPixmap couverture(QSize taille); // the leather under the open book
+QPixmap icone(QSize taille);      // the program's own: the bound book, open
 // A page, its gutter towards the spine; drawn anew at each call, for the page surfaces keep
 // what they show.
 QPixmap page(QSize taille, bool gauche);
@@ -59,6 +60,8 @@ QPixmap clavier(QSize taille, const std::vector<Touche>& touches);
 
 // The book's way to its settings: a cog.
 QPixmap reglages(QSize taille);
+// The day on paper: a printer.
+QPixmap imprimante(QSize taille);
 
 // A globe: a page on the Internet.
 QPixmap internet(QSize taille);

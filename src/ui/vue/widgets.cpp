@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScreen>
 
 namespace agenda::ui {
@@ -62,21 +64,25 @@ void VueSurface::dessine(QPainter& g) const {
         g.restore();
     }
     if (!surface_) return;
+    g.scale(px_par_twip(), px_par_twip());
+    dessine_surface(g, *surface_);
+}
+
+void dessine_surface(QPainter& g, const Surface& surface) {
     g.setRenderHint(QPainter::Antialiasing);
     g.setRenderHint(QPainter::TextAntialiasing);
-    g.scale(px_par_twip(), px_par_twip());
-    for (const auto& t : surface_->traits()) {
+    for (const auto& t : surface.traits()) {
         QPen pen(couleur(t.couleur), t.epaisseur);
         pen.setStyle(t.pointille ? Qt::DotLine : Qt::SolidLine);
         pen.setCapStyle(Qt::RoundCap);
         g.setPen(pen);
         g.drawLine(t.x1, t.y1, t.x2, t.y2);
     }
-    for (const auto& b : surface_->boites())
+    for (const auto& b : surface.boites())
         g.fillRect(QRect(QPoint(std::min(b.x1, b.x2), std::min(b.y1, b.y2)),
                          QPoint(std::max(b.x1, b.x2), std::max(b.y1, b.y2))),
                    couleur(b.couleur));
-    for (const auto& t : surface_->textes()) {
+    for (const auto& t : surface.textes()) {
         QFont f(t.police);
         f.setPixelSize(std::max(1, int(std::lround(t.taille * twips_par_point))));
         g.setFont(f);
@@ -144,6 +150,24 @@ QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int
     p->setPixmap(icc::palette(p->size()));
     p->setCursor(Qt::CrossCursor);
     return p;
+}
+
+namespace {
+std::function<bool(QPrinter&)>& dialogue_remplace() {
+    static std::function<bool(QPrinter&)> d;
+    return d;
+}
+} // namespace
+
+bool dialogue_impression(QPrinter& imprimante, QWidget* parent) {
+    if (dialogue_remplace()) return dialogue_remplace()(imprimante);
+    QPrintDialog dialogue(&imprimante, parent);
+    dialogue.setWindowTitle(QStringLiteral("Imprimer la journée"));
+    return dialogue.exec() == QDialog::Accepted;
+}
+
+void fixe_dialogue_impression(std::function<bool(QPrinter&)> dialogue) {
+    dialogue_remplace() = std::move(dialogue);
 }
 
 QString crlf_vers_ecran(QString s) {

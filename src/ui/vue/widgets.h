@@ -14,6 +14,7 @@
 class QFont;
 class QLabel;
 class QPainter;
+class QPrinter;
 
 namespace agenda::ui {
 
@@ -49,9 +50,17 @@ private:
 // read from the pixel under the pointer, as the files keep colours.
 QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int32_t)> clic);
 
+// The system's print dialog, which also offers a PDF file: whether the operator printed.
+bool dialogue_impression(QPrinter& imprimante, QWidget* parent);
+// Replaces the dialog (tests); an empty function gives the system's back.
+void fixe_dialogue_impression(std::function<bool(QPrinter&)> dialogue);
+
 // Line breaks as the files keep them (CR LF) and as a text widget holds them (LF).
 QString crlf_vers_ecran(QString s);
 QString ecran_vers_crlf(QString s);
+
+// What a surface recorded, on a painter whose unit is the twip.
+void dessine_surface(QPainter& g, const Surface& surface);
 
 // A caption at a rectangle in twips, wrapped to its width.
 QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police);

@@ -149,27 +149,26 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     picture3_ = ui::fleche_jour(*paged_, Torva1::Picture3_rect, false,
                                 [this] { appelle([&] { l_.Picture3_Click(); }); });
 
-    auto* bt_out = new QToolButton(paged_);
-    ui::place(*bt_out, Torva1::bt_out_rect);
-    bt_out->setAutoRaise(true);
-    bt_out->setCursor(Qt::PointingHandCursor);
-    bt_out->setIcon(ui::icc::reglages(bt_out->size()));
-    bt_out->setIconSize(bt_out->size());
-    bt_out->setToolTip(QStringLiteral("Paramétrage de l'Agenda"));
-    connect(bt_out, &QToolButton::clicked, this,
-            [this] { apres_le_clic([this] { l_.bt_out_Click(); }); });
+    // The buttons at the foot of the right page: the settings, the day on paper.
+    const auto bouton_pied = [this](const ui::RectTwips& r, QPixmap (*image)(QSize),
+                                    const QString& aide, std::function<void()> clic) {
+        auto* b = new QToolButton(paged_);
+        ui::place(*b, r);
+        b->setAutoRaise(true);
+        b->setCursor(Qt::PointingHandCursor);
+        b->setIcon(image(b->size()));
+        b->setIconSize(b->size());
+        b->setToolTip(aide);
+        connect(b, &QToolButton::clicked, this, [this, clic] { apres_le_clic(clic); });
+        return b;
+    };
+    QToolButton* bt_out =
+        bouton_pied(Torva1::bt_out_rect, &ui::icc::reglages,
+                    QStringLiteral("Paramétrage de l'Agenda"), [this] { l_.bt_out_Click(); });
     connect(&l_, &Torva1::cache, this, [this](bool oui) { setVisible(!oui); });
-
-    auto* bt_imprime = new QToolButton(paged_);
-    ui::place(*bt_imprime, Torva1::bt_imprime_rect);
-    bt_imprime->setObjectName(QStringLiteral("bt_imprime"));
-    bt_imprime->setAutoRaise(true);
-    bt_imprime->setCursor(Qt::PointingHandCursor);
-    bt_imprime->setIcon(ui::icc::imprimante(bt_imprime->size()));
-    bt_imprime->setIconSize(bt_imprime->size());
-    bt_imprime->setToolTip(QStringLiteral("Imprimer la journée"));
-    connect(bt_imprime, &QToolButton::clicked, this,
-            [this] { apres_le_clic([this] { imprime(); }); });
+    QToolButton* bt_imprime =
+        bouton_pied(Torva1::bt_imprime_rect, &ui::icc::imprimante,
+                    QStringLiteral("Imprimer la journée"), [this] { imprime(); });
 
     connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
 

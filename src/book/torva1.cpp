@@ -80,10 +80,6 @@ const std::array<QString, 12> noms_des_mois = {
     QStringLiteral("Juillet"), QStringLiteral("Aout"),     QStringLiteral("Septembre"),
     QStringLiteral("Octobre"), QStringLiteral("Novembre"), QStringLiteral("Décembre")};
 
-int annee_de(Date d) {
-    return int(val(ui::format_date(d, u"yyyy")));
-}
-
 // An hour field out of the 16-bit range is an overflow that nothing traps in the load.
 std::int16_t champ_heure(const QString& valeur, int debut, int longueur) {
     return en_i16(val(mid1(valeur, debut, longueur)));
@@ -202,7 +198,7 @@ void Torva1::sel_onglet(int n) {
         etape([&] { decod_semaine(); });
         break;
     case 2:
-        etape([&] { etat.annee_courante = annee_de(etat.date_courante); });
+        etape([&] { etat.annee_courante = ui::jour_de(etat.date_courante).year(); });
         etape([&] { decod_annee(); });
         break;
     case 3: {
@@ -448,7 +444,7 @@ void Torva1::decod_semaine() {
     // The view leaves the book on the Monday.
     etat.date_courante = lundi;
 
-    etat.cle_note = QStringLiteral("SE:") + motif_jour(lundi);
+    etat.cle_note = cle_semaine(lundi);
     lit_note_semaine();
     ui::pose_pointeur(ui::Pointeur::fleche);
 }
@@ -504,19 +500,11 @@ void Torva1::jour_s(int k, const QStringList& jour) {
 }
 
 void Torva1::lit_note_semaine() {
-    Text3.clear();
-    Text3_fond = Text3_fond_dessin;
-    Text3_encre = 0;
-    ouvre_notes();
-    if (const std::int32_t n = cherche_note(etat.cle_note); n > 0) {
-        const RecRv note = lit_record<RecRv>(canal::notes, std::int64_t(n) + 1);
-        Text3 = sans_blancs(note.lit(RecRv::texte_rv));
-        if (!Text3.isEmpty()) {
-            Text3_fond = note.lit(RecRv::couleur_rv);
-            Text3_encre = note.lit(RecRv::encadre_rv);
-        }
-    }
-    canal_fichier(canal::notes).ferme();
+    const RecRv note = lit_note(etat.cle_note).rec;
+    Text3 = sans_blancs(note.lit(RecRv::texte_rv));
+    // A blank note, or none, shows in the design colours.
+    Text3_fond = Text3.isEmpty() ? Text3_fond_dessin : note.lit(RecRv::couleur_rv);
+    Text3_encre = Text3.isEmpty() ? 0 : note.lit(RecRv::encadre_rv);
 }
 
 void Torva1::picture4_Click() {
@@ -539,7 +527,7 @@ void Torva1::lrvs_Click(int k, int i) {
 
 void Torva1::Text3_Click() {
     if (!frein_du_clic()) return;
-    etat.cle_note = QStringLiteral("SE:") + motif_jour(etat.date_courante);
+    etat.cle_note = cle_semaine(etat.date_courante);
     etat.note_x = en_i16(Text3_rect.left + 7910);
     etat.note_y = en_i16(Text3_rect.top - 1370);
     Saisnote note;
@@ -578,7 +566,7 @@ void Torva1::decod_annee() {
         Label111[m] = noms_des_mois[m];
     }
 
-    const int annee = annee_de(etat.date_courante);
+    const int annee = ui::jour_de(etat.date_courante).year();
     etat.annee_courante = annee;
     Label222 = motif_zeros(annee, 4);
     Label8 = QString::number(annee + 1);

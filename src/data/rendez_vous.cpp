@@ -1,5 +1,6 @@
 #include "data/rendez_vous.h"
 
+#include "data/dossier.h"
 #include "data/fichier_records.h"
 #include "data/formats.h"
 #include "data/octets.h"
@@ -179,6 +180,19 @@ std::int32_t cherche_note(const QString& cle) {
         return false;
     });
     return trouve;
+}
+
+QString cle_semaine(Date lundi) {
+    return QStringLiteral("SE:") + motif_jour(lundi);
+}
+
+Note lit_note(const QString& cle) {
+    ouvre_notes();
+    Note note;
+    note.numero = cherche_note(cle);
+    if (note.numero > 0) note.rec = lit_record<RecRv>(canal::notes, std::int64_t(note.numero) + 1);
+    canal_fichier(canal::notes).ferme();
+    return note;
 }
 
 std::int32_t entree_jour::numero(const QString& e) {

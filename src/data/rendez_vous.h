@@ -3,6 +3,7 @@
 // repaired by the file's length, the day scan and the note scan.
 
 #include "data/etat.h"
+#include "data/formats.h"
 
 #include <array>
 #include <cstdint>
@@ -13,7 +14,6 @@
 namespace agenda {
 
 class FichierRecords;
-struct RecRv;
 
 // Raises dernier_num of record 1, then writes the record for the new number in one write;
 // returns the number.
@@ -47,6 +47,16 @@ void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
                    const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv);
 // An entry of the day list for appointment `numero` and its record's bytes.
 QString entree_du_jour(std::int32_t numero, std::span<const std::uint8_t> rec);
+
+// The key of the week note of the week that begins on `lundi`: "SE:yymmdd".
+QString cle_semaine(Date lundi);
+// The first note under a key in the note file of num_collab, which is opened for the scan and
+// closed after it: its number, 0 when there is none, and its record.
+struct Note {
+    std::int32_t numero = 0;
+    RecRv rec;
+};
+Note lit_note(const QString& cle);
 
 // The number of the first note whose first nine characters are the key ("JO:yymmdd",
 // "SE:yymmdd"), or 0. The note file must be open on channel 16.

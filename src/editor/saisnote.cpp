@@ -15,18 +15,15 @@ namespace agenda {
 void Saisnote::Form_Load() {
     left = etat.note_x;
     top = etat.note_y;
-    ouvre_notes();
-    etat.num_note = 0;
     // The first note under the key: two stand under one only when two workstations created it
     // at the same moment.
-    if (const std::int32_t n = cherche_note(etat.cle_note); n > 0) {
-        const RecRv note = lit_record<RecRv>(canal::notes, std::int64_t(n) + 1);
-        Text1 = sans_blancs(note.lit(RecRv::texte_rv));
-        Text1_encre = note.lit(RecRv::encadre_rv);
-        Text1_fond = note.lit(RecRv::couleur_rv);
-        etat.num_note = en_i16(n, QStringLiteral("le numéro de la note"));
+    const Note note = lit_note(etat.cle_note);
+    etat.num_note = en_i16(note.numero, QStringLiteral("le numéro de la note"));
+    if (note.numero > 0) {
+        Text1 = sans_blancs(note.rec.lit(RecRv::texte_rv));
+        Text1_encre = note.rec.lit(RecRv::encadre_rv);
+        Text1_fond = note.rec.lit(RecRv::couleur_rv);
     }
-    canal_fichier(canal::notes).ferme();
 }
 
 void Saisnote::bt_ok_Click() {

@@ -231,12 +231,12 @@ void Torva1Vue::construit_semaine() {
     text3_->setCursor(Qt::IBeamCursor);
     auto* label10 = texte(paged_, Torva1::Label10_rect, 11, false, Qt::AlignCenter);
     label10->setText(QStringLiteral("Note de la semaine"));
-    QToolButton* picture4 = ui::fleche_jour(*paged_, Torva1::picture4_rect, true,
-                                            [this] { appelle([&] { l_.picture4_Click(); }); });
-    QToolButton* picture5 = ui::fleche_jour(*paged_, Torva1::Picture5_rect, false,
-                                            [this] { appelle([&] { l_.Picture5_Click(); }); });
-    picture4->setToolTip(QStringLiteral("Semaine précédente"));
-    picture5->setToolTip(QStringLiteral("Semaine suivante"));
+    QToolButton* picture4 = ui::fleche_jour(
+        *paged_, Torva1::picture4_rect, true, [this] { appelle([&] { l_.picture4_Click(); }); },
+        ui::Pas::semaine);
+    QToolButton* picture5 = ui::fleche_jour(
+        *paged_, Torva1::Picture5_rect, false, [this] { appelle([&] { l_.Picture5_Click(); }); },
+        ui::Pas::semaine);
     vue_semaine_.insert(vue_semaine_.end(), {text3_, label10, picture4, picture5});
     for (QWidget* w : vue_semaine_)
         w->hide();
@@ -295,12 +295,12 @@ void Torva1Vue::construit_annee() {
         l->setCursor(Qt::PointingHandCursor);
         l->installEventFilter(this);
     }
-    QToolButton* picture7 = ui::fleche_jour(*picture6_, Torva1::Picture7_rect, true,
-                                            [this] { appelle([&] { l_.Picture7_Click(); }); });
-    QToolButton* picture8 = ui::fleche_jour(*picture6_, Torva1::Picture8_rect, false,
-                                            [this] { appelle([&] { l_.Picture8_Click(); }); });
-    picture7->setToolTip(QStringLiteral("Année précédente"));
-    picture8->setToolTip(QStringLiteral("Année suivante"));
+    ui::fleche_jour(
+        *picture6_, Torva1::Picture7_rect, true, [this] { appelle([&] { l_.Picture7_Click(); }); },
+        ui::Pas::annee);
+    ui::fleche_jour(
+        *picture6_, Torva1::Picture8_rect, false, [this] { appelle([&] { l_.Picture8_Click(); }); },
+        ui::Pas::annee);
 
     // The colour samples; a click changes the colour.
     const auto echantillon = [this](const ui::RectTwips& r, const QString& nom) {
@@ -318,7 +318,7 @@ void Torva1Vue::montre_semaine(bool visible) {
         w->setVisible(visible);
     for (int k = 0; k < Torva1::nb_bandes; ++k) {
         pages_[std::size_t(k)]->montre(visible ? &l_.pages[std::size_t(k)] : nullptr);
-        njours_[std::size_t(k)]->setText(l_.njours[std::size_t(k)]);
+        if (visible) njours_[std::size_t(k)]->setText(l_.njours[std::size_t(k)]);
         montre_etiquettes(reserve_bande + k, visible ? &l_.lrvs[std::size_t(k)] : nullptr);
     }
     if (!visible) return;
@@ -328,10 +328,11 @@ void Torva1Vue::montre_semaine(bool visible) {
 
 void Torva1Vue::montre_annee() {
     picture6_->setVisible(l_.Picture6_visible);
-    fond_de(*label5_, l_.Label5_fond, 0);
-    fond_de(*label6_, l_.Label6_fond, 0);
+    // Everything below changes with a drawing only, a colour sample's too: a day step skips it.
     if (!l_.Picture6_visible || dessin_annee_montre_ == l_.dessins_annee) return;
     dessin_annee_montre_ = l_.dessins_annee;
+    fond_de(*label5_, l_.Label5_fond, 0);
+    fond_de(*label6_, l_.Label6_fond, 0);
     label222_->setText(l_.Label222);
     label8_->setText(l_.Label8);
     label9_->setText(l_.Label9);

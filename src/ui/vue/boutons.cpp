@@ -20,14 +20,18 @@ QToolButton* bouton_image(QWidget& parent, const RectTwips& r, bool oui,
 }
 
 QToolButton* fleche_jour(QWidget& parent, const RectTwips& r, bool precedent,
-                         std::function<void()> clic) {
+                         std::function<void()> clic, Pas pas) {
     auto* b = new QToolButton(&parent);
     place(*b, r);
     b->setAutoRaise(true);
     b->setCursor(Qt::PointingHandCursor);
     b->setIcon(icc::fleche(precedent, b->size()));
     b->setIconSize(b->size());
-    b->setToolTip(precedent ? QStringLiteral("Jour précédent") : QStringLiteral("Jour suivant"));
+    static const QString aides[3][2] = {
+        {QStringLiteral("Jour précédent"), QStringLiteral("Jour suivant")},
+        {QStringLiteral("Semaine précédente"), QStringLiteral("Semaine suivante")},
+        {QStringLiteral("Année précédente"), QStringLiteral("Année suivante")}};
+    b->setToolTip(aides[int(pas)][precedent ? 0 : 1]);
     QObject::connect(b, &QToolButton::clicked, b, std::move(clic));
     return b;
 }

@@ -14,7 +14,9 @@ namespace agenda::ui {
 QToolButton* bouton_image(QWidget& parent, const RectTwips& r, bool oui,
                           std::function<void()> clic);
 
+// What an arrow steps by, which its tooltip says.
+enum class Pas { jour, semaine, annee };
 QToolButton* fleche_jour(QWidget& parent, const RectTwips& r, bool precedent,
-                         std::function<void()> clic);
+                         std::function<void()> clic, Pas pas = Pas::jour);
 
 } // namespace agenda::ui

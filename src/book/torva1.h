@@ -135,6 +135,8 @@ public:
     static constexpr std::int32_t Text3_fond_dessin = 0xC0FFFF;
     static constexpr ui::RectTwips picture4_rect{420, 8070, 450, 450},
         Picture5_rect{5775, 8070, 450, 450}, Label10_rect{900, 8110, 4845, 400};
+    // The week on paper: at the end of the first heading of the right page.
+    static constexpr ui::RectTwips bt_imprime_semaine_rect{6000, 20, 360, 360};
 
     // The year view: Picture6 over both pages, the months four to a row.
     static constexpr ui::RectTwips Picture6_rect{600, 0, 14100, 10950};

@@ -102,6 +102,8 @@ public:
         Label5_rect{10000, 9900, 900, 420}, Label7_rect{10950, 9450, 400, 870},
         Label6_rect{11450, 9450, 1900, 870};
     static constexpr ui::RectTwips command1_rect{13450, 9450, 1750, 900};
+    // The planning on paper, under the date button.
+    static constexpr ui::RectTwips bt_imprime_rect{4800, 10420, 1900, 560};
 
 private:
     void dessine_rv(int colonne, std::int32_t collab, const QString& entree);

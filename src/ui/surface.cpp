@@ -31,15 +31,12 @@ std::int32_t bbggrr(const QColor& c) {
     return c.red() | c.green() << 8 | c.blue() << 16;
 }
 
-namespace {
-// A font whose pixel size is its height in twips, so that measures come out in twips
-// whatever the screen.
-QFont police_twips(const QString& nom, double points) {
+QFont police_twips(const QString& nom, double points, bool gras) {
     QFont f(nom);
     f.setPixelSize(std::max(1, int(std::lround(points * twips_par_point))));
+    f.setBold(gras);
     return f;
 }
-} // namespace
 
 void Surface::efface() {
     traits_.clear();

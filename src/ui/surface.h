@@ -20,6 +20,9 @@ std::int32_t bbggrr(const QColor& c);
 
 // Font sizes are points; a point is 20 twips.
 inline constexpr int twips_par_point = 20;
+// A font whose pixel size is its height in twips, so that measures come out in twips whatever
+// the screen, and a painter scaled to twips draws it at its size.
+QFont police_twips(const QString& nom, double points, bool gras = false);
 
 class Surface {
 public:

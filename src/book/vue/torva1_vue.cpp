@@ -5,6 +5,7 @@
 #include "ui/vue/boutons.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
+#include "ui/vue/impression.h"
 #include "ui/vue/widgets.h"
 
 #include "book/vue/impression.h"
@@ -19,7 +20,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPrinter>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTextCharFormat>
@@ -169,6 +169,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     QToolButton* bt_imprime =
         bouton_pied(Torva1::bt_imprime_rect, &ui::icc::imprimante,
                     QStringLiteral("Imprimer la journée"), [this] { imprime(); });
+    imprime_semaine_ = bouton_pied(Torva1::bt_imprime_semaine_rect, &ui::icc::imprimante,
+                                   QStringLiteral("Imprimer la semaine"), [this] { imprime(); });
 
     connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
 
@@ -191,13 +193,21 @@ Torva1Vue::~Torva1Vue() {
 }
 
 void Torva1Vue::imprime() {
-    QPrinter imprimante(QPrinter::HighResolution);
-    const QString titre =
-        l_.Label7 + QStringLiteral(" — ") +
-        initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
-    imprimante.setPageOrientation(QPageLayout::Landscape);
-    imprimante.setPageSize(QPageSize(QPageSize::A4));
-    if (ui::dialogue_impression(imprimante, this)) imprime_jour(imprimante, l_, titre);
+    const bool semaine = l_.vue_visible == 1;
+    const QString quand =
+        semaine ? QStringLiteral("Semaine du ") +
+                      ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy")
+                : initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
+    ui::imprime(this,
+                semaine ? QStringLiteral("Imprimer la semaine")
+                        : QStringLiteral("Imprimer la journée"),
+                l_.Label7 + QStringLiteral(" — ") + quand, taille_livre_ouvert(),
+                [this, semaine](QPainter& g) {
+                    if (semaine)
+                        dessine_semaine(g, l_);
+                    else
+                        dessine_jour(g, l_);
+                });
 }
 
 void Torva1Vue::construit_semaine() {
@@ -237,9 +247,11 @@ void Torva1Vue::construit_semaine() {
     QToolButton* picture5 = ui::fleche_jour(
         *paged_, Torva1::Picture5_rect, false, [this] { appelle([&] { l_.Picture5_Click(); }); },
         ui::Pas::semaine);
-    vue_semaine_.insert(vue_semaine_.end(), {text3_, label10, picture4, picture5});
+    vue_semaine_.insert(vue_semaine_.end(),
+                        {text3_, label10, picture4, picture5, imprime_semaine_});
     for (QWidget* w : vue_semaine_)
         w->hide();
+    imprime_semaine_->raise(); // above the heading it ends
 }
 
 void Torva1Vue::construit_annee() {

@@ -72,6 +72,7 @@ private:
     std::array<ui::VueSurface*, Torva1::nb_bandes> pages_{};
     std::array<QLabel*, Torva1::nb_bandes> njours_{};
     QLabel* text3_ = nullptr;
+    QToolButton* imprime_semaine_ = nullptr;
 
     // The year view.
     void construit_annee();

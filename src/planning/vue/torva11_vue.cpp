@@ -1,8 +1,11 @@
 #include "planning/vue/torva11_vue.h"
 
+#include "data/texte.h"
+#include "ui/dates.h"
 #include "ui/vue/boutons.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
+#include "ui/vue/impression.h"
 #include "ui/vue/widgets.h"
 
 #include <QFrame>
@@ -104,6 +107,11 @@ Torva11Vue::Torva11Vue(Torva11& l) : VueModale(l, ui::largeur_livre, ui::hauteur
         QStringLiteral("Transfert du rendez-vous sur un autre collaborateur ou à une autre date"));
     auto* command1 = bouton(*this, Torva11::command1_rect, ui::icc::sortie(image),
                             QStringLiteral("Sortie du planning"));
+    auto* bt_imprime = bouton(*this, Torva11::bt_imprime_rect,
+                              ui::icc::imprimante(QSize(ui::px(420), ui::px(420))),
+                              QStringLiteral("Imprimer le planning"));
+    connect(bt_imprime, &QPushButton::clicked, this,
+            [this] { apres_le_clic([this] { imprime(); }); });
     // The windows these open belong to the planning; their clicks are done first.
     connect(bt_date, &QPushButton::clicked, this,
             [this] { apres_le_clic([this] { l_.bt_date_Click(); }); });
@@ -112,6 +120,21 @@ Torva11Vue::Torva11Vue(Torva11& l) : VueModale(l, ui::largeur_livre, ui::hauteur
     connect(command1, &QPushButton::clicked, this,
             [this] { appelle([&] { l_.command1_Click(); }); });
     montre();
+}
+
+void Torva11Vue::imprime() {
+    const ui::RectTwips p1 = Torva11::p1_rect;
+    const QString jour = ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy");
+    ui::imprime(this, QStringLiteral("Imprimer le planning"),
+                QStringLiteral("Planning — ") + initiale_majuscule(jour),
+                QSize(p1.width, p1.height), [this, p1](QPainter& g) {
+                    g.setPen(QPen(QColor(0xe2, 0xd6, 0xbb), 30));
+                    g.drawRoundedRect(QRectF(15, 15, p1.width - 30, p1.height - 30), 150, 150);
+                    ui::dessine_surface(g, l_.p1);
+                    g.setPen(QPen(QColor(0x00, 0x00, 0x80), 30));
+                    for (const auto& [i, r] : l_.cadnom)
+                        g.drawRoundedRect(QRectF(r.left, r.top, r.width, r.height), 120, 120);
+                });
 }
 
 void Torva11Vue::mouseMoveEvent(QMouseEvent* e) {

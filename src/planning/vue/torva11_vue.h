@@ -19,6 +19,8 @@ class VueSurface;
 class Torva11Vue : public ui::VueModale {
 public:
     explicit Torva11Vue(Torva11& logique);
+    // The day of every collaborator on one A4 page, through the print dialog.
+    void imprime();
 
 protected:
     void mouseMoveEvent(QMouseEvent* e) override;

@@ -9,8 +9,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScreen>
 
 namespace agenda::ui {
@@ -83,9 +81,7 @@ void dessine_surface(QPainter& g, const Surface& surface) {
                          QPoint(std::max(b.x1, b.x2), std::max(b.y1, b.y2))),
                    couleur(b.couleur));
     for (const auto& t : surface.textes()) {
-        QFont f(t.police);
-        f.setPixelSize(std::max(1, int(std::lround(t.taille * twips_par_point))));
-        g.setFont(f);
+        g.setFont(police_twips(t.police, t.taille));
         g.setPen(couleur(t.couleur));
         g.drawText(QRectF(t.x, t.y, 20000, 20000), Qt::AlignLeft | Qt::AlignTop, t.texte);
     }
@@ -150,24 +146,6 @@ QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int
     p->setPixmap(icc::palette(p->size()));
     p->setCursor(Qt::CrossCursor);
     return p;
-}
-
-namespace {
-std::function<bool(QPrinter&)>& dialogue_remplace() {
-    static std::function<bool(QPrinter&)> d;
-    return d;
-}
-} // namespace
-
-bool dialogue_impression(QPrinter& imprimante, QWidget* parent) {
-    if (dialogue_remplace()) return dialogue_remplace()(imprimante);
-    QPrintDialog dialogue(&imprimante, parent);
-    dialogue.setWindowTitle(QStringLiteral("Imprimer la journée"));
-    return dialogue.exec() == QDialog::Accepted;
-}
-
-void fixe_dialogue_impression(std::function<bool(QPrinter&)> dialogue) {
-    dialogue_remplace() = std::move(dialogue);
 }
 
 QString crlf_vers_ecran(QString s) {

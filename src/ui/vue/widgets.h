@@ -14,7 +14,6 @@
 class QFont;
 class QLabel;
 class QPainter;
-class QPrinter;
 
 namespace agenda::ui {
 
@@ -49,11 +48,6 @@ private:
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,
 // read from the pixel under the pointer, as the files keep colours.
 QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int32_t)> clic);
-
-// The system's print dialog, which also offers a PDF file: whether the operator printed.
-bool dialogue_impression(QPrinter& imprimante, QWidget* parent);
-// Replaces the dialog (tests); an empty function gives the system's back.
-void fixe_dialogue_impression(std::function<bool(QPrinter&)> dialogue);
 
 // Line breaks as the files keep them (CR LF) and as a text widget holds them (LF).
 QString crlf_vers_ecran(QString s);

@@ -150,18 +150,6 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
                                 [this] { appelle([&] { l_.Picture3_Click(); }); });
 
     // The buttons at the foot of the right page: the settings, the day on paper.
-    const auto bouton_pied = [this](const ui::RectTwips& r, QPixmap (*image)(QSize),
-                                    const QString& aide, std::function<void()> clic) {
-        auto* b = new QToolButton(paged_);
-        ui::place(*b, r);
-        b->setAutoRaise(true);
-        b->setCursor(Qt::PointingHandCursor);
-        b->setIcon(image(b->size()));
-        b->setIconSize(b->size());
-        b->setToolTip(aide);
-        connect(b, &QToolButton::clicked, this, [this, clic] { apres_le_clic(clic); });
-        return b;
-    };
     QToolButton* bt_out =
         bouton_pied(Torva1::bt_out_rect, &ui::icc::reglages,
                     QStringLiteral("Paramétrage de l'Agenda"), [this] { l_.bt_out_Click(); });
@@ -169,8 +157,6 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     QToolButton* bt_imprime =
         bouton_pied(Torva1::bt_imprime_rect, &ui::icc::imprimante,
                     QStringLiteral("Imprimer la journée"), [this] { imprime(); });
-    imprime_semaine_ = bouton_pied(Torva1::bt_imprime_semaine_rect, &ui::icc::imprimante,
-                                   QStringLiteral("Imprimer la semaine"), [this] { imprime(); });
 
     connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
 
@@ -179,13 +165,25 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
                  calend_, picture2_, picture3_, bt_out,  bt_imprime};
     reserves_[reserve_g].parent = pageg_;
     reserves_[reserve_d].parent = paged_;
-    construit_semaine();
-    construit_annee();
+    // The week and the year are built at their first showing: most days only the day is seen.
 
     connect(&l_, &Torva1::charge_banniere, this,
             [this] { sepaffic_ = std::make_unique<Sepaffic>(); });
     // Timer3 never puts the book above a window it opened.
     connect(&l_, &Torva1::au_premier_plan, this, [] { ui::au_premier_plan(); });
+}
+
+QToolButton* Torva1Vue::bouton_pied(const ui::RectTwips& r, QPixmap (*image)(QSize),
+                                    const QString& aide, std::function<void()> clic) {
+    auto* b = new QToolButton(paged_);
+    ui::place(*b, r);
+    b->setAutoRaise(true);
+    b->setCursor(Qt::PointingHandCursor);
+    b->setIcon(image(b->size()));
+    b->setIconSize(b->size());
+    b->setToolTip(aide);
+    connect(b, &QToolButton::clicked, this, [this, clic] { apres_le_clic(clic); });
+    return b;
 }
 
 Torva1Vue::~Torva1Vue() {
@@ -247,11 +245,11 @@ void Torva1Vue::construit_semaine() {
     QToolButton* picture5 = ui::fleche_jour(
         *paged_, Torva1::Picture5_rect, false, [this] { appelle([&] { l_.Picture5_Click(); }); },
         ui::Pas::semaine);
-    vue_semaine_.insert(vue_semaine_.end(),
-                        {text3_, label10, picture4, picture5, imprime_semaine_});
-    for (QWidget* w : vue_semaine_)
-        w->hide();
-    imprime_semaine_->raise(); // above the heading it ends
+    // At the end of the Friday's heading, above it.
+    QToolButton* imprime_semaine =
+        bouton_pied(Torva1::bt_imprime_semaine_rect, &ui::icc::imprimante,
+                    QStringLiteral("Imprimer la semaine"), [this] { imprime(); });
+    vue_semaine_.insert(vue_semaine_.end(), {text3_, label10, picture4, picture5, imprime_semaine});
 }
 
 void Torva1Vue::construit_annee() {
@@ -259,7 +257,6 @@ void Torva1Vue::construit_annee() {
     picture6_ = new QLabel(this);
     ui::place(*picture6_, Torva1::Picture6_rect);
     picture6_->setPixmap(ui::icc::feuille(picture6_->size()));
-    picture6_->hide();
 
     const QFont police_grille = ui::police(QStringLiteral("DejaVu Sans"), 7);
     for (int m = 0; m < 12; ++m) {
@@ -326,6 +323,10 @@ void Torva1Vue::construit_annee() {
 }
 
 void Torva1Vue::montre_semaine(bool visible) {
+    if (vue_semaine_.empty()) {
+        if (!visible) return;
+        construit_semaine();
+    }
     for (QWidget* w : vue_semaine_)
         w->setVisible(visible);
     for (int k = 0; k < Torva1::nb_bandes; ++k) {
@@ -339,6 +340,10 @@ void Torva1Vue::montre_semaine(bool visible) {
 }
 
 void Torva1Vue::montre_annee() {
+    if (!picture6_) {
+        if (!l_.Picture6_visible) return;
+        construit_annee();
+    }
     picture6_->setVisible(l_.Picture6_visible);
     // Everything below changes with a drawing only, a colour sample's too: a day step skips it.
     if (!l_.Picture6_visible || dessin_annee_montre_ == l_.dessins_annee) return;

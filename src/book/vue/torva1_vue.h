@@ -42,6 +42,9 @@ private:
     void montre() override;
     QLabel* texte(QWidget* parent, const ui::RectTwips& r, double points, bool gras,
                   Qt::Alignment a);
+    // A picture button on the right page; its click waits for the click to end.
+    QToolButton* bouton_pied(const ui::RectTwips& r, QPixmap (*image)(QSize), const QString& aide,
+                             std::function<void()> clic);
 
     Torva1& l_;
     std::unique_ptr<Sepaffic> sepaffic_;
@@ -72,7 +75,6 @@ private:
     std::array<ui::VueSurface*, Torva1::nb_bandes> pages_{};
     std::array<QLabel*, Torva1::nb_bandes> njours_{};
     QLabel* text3_ = nullptr;
-    QToolButton* imprime_semaine_ = nullptr;
 
     // The year view.
     void construit_annee();

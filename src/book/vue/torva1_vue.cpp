@@ -90,7 +90,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             const QWidget* page = gauche ? pageg_ : paged_;
             g.drawPixmap(QRectF(QPointF(0, 0), QSizeF(s)), fond->pixmap(),
                          QRectF(page->geometry()));
-            g.drawPixmap(0, 0, ui::icc::page(s, gauche));
+            ui::icc::page(g, s, gauche);
         };
     };
     pageg_ = new ui::VueSurface(this, page_sur_la_couverture(true));

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <map>
 #include <QFontMetrics>
 #include <QHash>
 #include <QImage>
@@ -128,12 +129,20 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
     g.setRenderHint(QPainter::TextAntialiasing);
     QFont f(QStringLiteral("DejaVu Serif"));
     f.setBold(true);
-    // As large as the tab allows, the longest title included.
+    // As large as the tab allows, the longest title included: the same for every tab of a size,
+    // and each size tried loads a font of its own, so it is found once per size.
+    static std::map<std::pair<int, int>, int> tailles;
+    auto [taille, nouvelle] = tailles.try_emplace({t.width(), t.height()}, 0);
+    if (nouvelle) {
+        int& essai = taille->second;
+        essai = std::max(6, t.width() * 9 / 20);
+        for (f.setPixelSize(essai); essai > 6; f.setPixelSize(--essai))
+            if (QFontMetrics(f).horizontalAdvance(QString::fromUtf8(titres[4])) <=
+                t.height() * 0.85)
+                break;
+    }
+    f.setPixelSize(taille->second);
     const QString titre = QString::fromUtf8(titres[std::size_t(i)]);
-    int taille = std::max(6, t.width() * 9 / 20);
-    for (f.setPixelSize(taille); taille > 6; f.setPixelSize(--taille))
-        if (QFontMetrics(f).horizontalAdvance(QString::fromUtf8(titres[4])) <= t.height() * 0.85)
-            break;
     g.setFont(f);
     g.setPen(encre);
     // Written along the edge, reading from the page outwards.
@@ -166,26 +175,27 @@ QPixmap couverture(QSize t) {
     });
 }
 
-QPixmap page(QSize t, bool gauche) {
-    return trace(t, [&](QPainter& g) {
-        QPainterPath bord;
-        const qreal r = t.width() / 60.0;
-        bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
-        // The paper darkens towards the gutter, where the page curves into the binding.
-        QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
-        lg.setColorAt(0, papier_ombre);
-        lg.setColorAt(0.08, papier);
-        lg.setColorAt(0.97, papier);
-        lg.setColorAt(1, papier_ombre);
-        g.fillPath(bord, lg);
-        grain(g, t, 40, QColor(0x80, 0x60, 0x30));
-        // The edges of the leaves underneath, on the fore-edge side.
-        g.setPen(QPen(papier_ombre.darker(110), 1));
-        for (int i = 1; i <= 3; ++i) {
-            const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
-            g.drawLine(x, int(r), x, t.height() - int(r));
-        }
-    });
+void page(QPainter& g, QSize t, bool gauche) {
+    g.save();
+    g.setRenderHint(QPainter::Antialiasing);
+    QPainterPath bord;
+    const qreal r = t.width() / 60.0;
+    bord.addRoundedRect(QRectF(0, 0, t.width(), t.height()), r, r);
+    // The paper darkens towards the gutter, where the page curves into the binding.
+    QLinearGradient lg(gauche ? t.width() : 0, 0, gauche ? 0 : t.width(), 0);
+    lg.setColorAt(0, papier_ombre);
+    lg.setColorAt(0.08, papier);
+    lg.setColorAt(0.97, papier);
+    lg.setColorAt(1, papier_ombre);
+    g.fillPath(bord, lg);
+    grain(g, t, 40, QColor(0x80, 0x60, 0x30));
+    // The edges of the leaves underneath, on the fore-edge side.
+    g.setPen(QPen(papier_ombre.darker(110), 1));
+    for (int i = 1; i <= 3; ++i) {
+        const int x = gauche ? i * 2 : t.width() - 1 - i * 2;
+        g.drawLine(x, int(r), x, t.height() - int(r));
+    }
+    g.restore();
 }
 
 QPixmap icone(QSize t) {

@@ -16,9 +16,9 @@ namespace agenda::ui::icc {
 
 QPixmap couverture(QSize taille); // the leather under the open book
 QPixmap icone(QSize taille);      // the program's own: the bound book, open
-// A page, its gutter towards the spine; drawn anew at each call, for the page surfaces keep
-// what they show.
-QPixmap page(QSize taille, bool gauche);
+// A page, its gutter towards the spine, drawn straight on the painter: the page surfaces keep
+// what they show, so the picture is kept nowhere else.
+void page(QPainter& g, QSize taille, bool gauche);
 QPixmap reliure(QSize taille); // Picture1, the spine between the pages
 QPixmap feuille(QSize taille); // a sheet laid on the pages: a week's day, the year
 

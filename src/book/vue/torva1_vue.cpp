@@ -13,6 +13,7 @@
 #include "data/texte.h"
 #include "ui/dates.h"
 
+#include <cmath>
 #include <QCalendarWidget>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -20,7 +21,9 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPaintEvent>
 #include <QPushButton>
+#include <QRegion>
 #include <QTableWidget>
 #include <QTextCharFormat>
 #include <QTimer>
@@ -71,6 +74,37 @@ void colore_feries(QCalendarWidget& calend, int annee, int mois, std::int32_t co
     }
 }
 
+// The leather boards, drawn in the parts of the window where they show.
+class Couverture : public QWidget {
+public:
+    Couverture(QWidget* parent, const QRegion& visible) : QWidget(parent) {
+        setGeometry(parent->rect());
+        const std::vector<QRect> parties(visible.begin(), visible.end());
+        const std::vector<QPixmap> images = ui::icc::couverture(size(), parties);
+        for (std::size_t i = 0; i < parties.size(); ++i)
+            parties_.emplace_back(parties[i], images[i]);
+    }
+    // What lies under `r` (in the window's pixels) drawn at the painter's origin, `r` filling
+    // `taille` device pixels.
+    void dessous(QPainter& g, const QRect& r, QSize taille) const {
+        g.save();
+        g.scale(double(taille.width()) / r.width(), double(taille.height()) / r.height());
+        for (const auto& [partie, image] : parties_)
+            if (partie.intersects(r)) g.drawPixmap(partie.topLeft() - r.topLeft(), image);
+        g.restore();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* e) override {
+        QPainter g(this);
+        for (const auto& [partie, image] : parties_)
+            if (e->region().intersects(partie)) g.drawPixmap(partie.topLeft(), image);
+    }
+
+private:
+    std::vector<std::pair<QRect, QPixmap>> parties_;
+};
+
 } // namespace
 
 Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
@@ -79,17 +113,26 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
     setAutoFillBackground(false);
 
-    auto* fond = new QLabel(this);
-    fond->setGeometry(rect());
-    fond->setPixmap(ui::icc::couverture(size()));
+    // The leather shows round the pages and under their rounded corners, nowhere else: the
+    // pages and the spine lie opaque on it.
+    QRegion cuir(rect());
+    for (const ui::RectTwips& page : {Torva1::pageg_rect, Torva1::paged_rect}) {
+        const QRect r = ui::px(page);
+        const int c = int(std::ceil(r.width() / 60.0)) + 2; // the corners' radius, and a pixel
+        cuir -= r;
+        for (const QPoint& coin :
+             {r.topLeft(), QPoint(r.right() - c + 1, r.top()), QPoint(r.left(), r.bottom() - c + 1),
+              QPoint(r.right() - c + 1, r.bottom() - c + 1)})
+            cuir += QRect(coin, QSize(c, c));
+    }
+    cuir -= ui::px(Torva1::Picture1_rect);
+    auto* fond = new Couverture(this, cuir);
 
     // Each page's picture carries the boards beneath its rounded corners, so that the page is
     // opaque: a repaint over a page does not paint the boards first.
     const auto page_sur_la_couverture = [this, fond](bool gauche) {
         return [this, fond, gauche](QPainter& g, QSize s) {
-            const QWidget* page = gauche ? pageg_ : paged_;
-            g.drawPixmap(QRectF(QPointF(0, 0), QSizeF(s)), fond->pixmap(),
-                         QRectF(page->geometry()));
+            fond->dessous(g, (gauche ? pageg_ : paged_)->geometry(), s);
             ui::icc::page(g, s, gauche);
         };
     };

@@ -65,23 +65,23 @@ QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
 // The grain's points, for each alpha in the order they were drawn: the same at every drawing.
 // Each point takes three draws (alpha, y, x), each scaled to its range as
 // QRandomGenerator::bounded does; they are drawn by blocks, one call for thousands of points.
-std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite) {
+// Only the points that `garde(x, y)` keeps are kept.
+template <class Garde>
+std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite, Garde&& garde) {
     QRandomGenerator rng(20040303);
     const auto borne = [](std::uint32_t tirage, int haut) {
         return int((std::uint64_t(tirage) * std::uint32_t(haut)) >> 32);
     };
     const int n = t.width() * t.height() / densite;
     std::array<std::vector<QPoint>, 40> par_alpha;
-    for (auto& points : par_alpha)
-        points.reserve(std::size_t(std::max(0, n / 30 + n / 300 + 16)));
     std::array<std::uint32_t, 3 * 4096> tirages;
     for (int fait = 0; fait < n;) {
         const int bloc = std::min(n - fait, int(tirages.size() / 3));
         rng.fillRange(tirages.data(), 3 * bloc);
         for (int i = 0; i < bloc; ++i) {
             const std::uint32_t* p = &tirages[std::size_t(3 * i)];
-            par_alpha[std::size_t(10 + borne(p[0], 30))].emplace_back(borne(p[2], t.width()),
-                                                                      borne(p[1], t.height()));
+            const int x = borne(p[2], t.width()), y = borne(p[1], t.height());
+            if (garde(x, y)) par_alpha[std::size_t(10 + borne(p[0], 30))].emplace_back(x, y);
         }
         fait += bloc;
     }
@@ -91,7 +91,7 @@ std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite) {
 } // namespace
 
 void grain(QPainter& g, QSize t, int densite, QColor c) {
-    const auto par_alpha = points_du_grain(t, densite);
+    const auto par_alpha = points_du_grain(t, densite, [](int, int) { return true; });
     for (int alpha = 10; alpha < 40; ++alpha) {
         const auto& points = par_alpha[std::size_t(alpha)];
         c.setAlpha(alpha);
@@ -100,20 +100,39 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
     }
 }
 
-void grain_noir(QImage& image, int densite) {
-    const auto par_alpha = points_du_grain(image.size(), densite);
+void grain_noir(std::vector<Partie>& parties, QSize entiere, int densite) {
+    // The parts that each row crosses: a point looks at those only, and only the points that
+    // fall in a part are kept.
+    std::vector<std::vector<Partie*>> par_ligne(std::size_t(std::max(0, entiere.height())));
+    for (Partie& partie : parties) {
+        const QRect r = QRect(partie.origine, partie.image.size()) & QRect(QPoint(), entiere);
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            par_ligne[std::size_t(y)].push_back(&partie);
+    }
+    const auto dans = [](const Partie& partie, int x) {
+        return x >= partie.origine.x() && x < partie.origine.x() + partie.image.width();
+    };
+    const auto par_alpha = points_du_grain(entiere, densite, [&](int x, int y) {
+        const auto& ligne = par_ligne[std::size_t(y)];
+        return std::any_of(ligne.begin(), ligne.end(),
+                           [&](const Partie* p) { return dans(*p, x); });
+    });
     for (int alpha = 10; alpha < 40; ++alpha) {
         const auto reste = std::uint64_t(255 - alpha);
-        for (const QPoint& p : par_alpha[std::size_t(alpha)]) {
-            auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(p.y())) + p.x();
-            // Each channel times 255 - alpha over 255, rounded as the raster engine does.
-            std::uint64_t t =
-                ((std::uint64_t(*pixel) | (std::uint64_t(*pixel) << 24)) & 0x00ff00ff00ff00ffULL) *
-                reste;
-            t = ((t + ((t >> 8) & 0x00ff00ff00ff00ffULL) + 0x0080008000800080ULL) >> 8) &
-                0x00ff00ff00ff00ffULL;
-            *pixel = (QRgb(alpha) << 24) + (QRgb(t) | QRgb(t >> 24));
-        }
+        for (const QPoint& p : par_alpha[std::size_t(alpha)])
+            for (Partie* partie : par_ligne[std::size_t(p.y())]) {
+                if (!dans(*partie, p.x())) continue;
+                auto* pixel =
+                    reinterpret_cast<QRgb*>(partie->image.scanLine(p.y() - partie->origine.y())) +
+                    (p.x() - partie->origine.x());
+                // Each channel times 255 - alpha over 255, rounded as the raster engine does.
+                std::uint64_t t = ((std::uint64_t(*pixel) | (std::uint64_t(*pixel) << 24)) &
+                                   0x00ff00ff00ff00ffULL) *
+                                  reste;
+                t = ((t + ((t >> 8) & 0x00ff00ff00ff00ffULL) + 0x0080008000800080ULL) >> 8) &
+                    0x00ff00ff00ff00ffULL;
+                *pixel = (QRgb(alpha) << 24) + (QRgb(t) | QRgb(t >> 24));
+            }
     }
 }
 
@@ -155,24 +174,39 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
 
 } // namespace
 
-QPixmap couverture(QSize t) {
-    return garde(QStringLiteral("couverture"), t, [&] {
-        QImage p(t.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+std::vector<QPixmap> couverture(QSize t, const std::vector<QRect>& parties) {
+    t = t.expandedTo(QSize(1, 1));
+    QRadialGradient rg(t.width() / 2.0, t.height() / 2.0, std::max(t.width(), t.height()) * 0.7);
+    rg.setColorAt(0, cuir_clair);
+    rg.setColorAt(1, cuir_fonce);
+    std::vector<Partie> images;
+    for (const QRect& r : parties) {
+        QImage p(r.size().expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
         p.fill(Qt::transparent);
-        QRadialGradient rg(t.width() / 2.0, t.height() / 2.0,
-                           std::max(t.width(), t.height()) * 0.7);
-        rg.setColorAt(0, cuir_clair);
-        rg.setColorAt(1, cuir_fonce);
-        QPainter(&p).fillRect(p.rect(), rg);
-        grain_noir(p, 6);
-        // A gilt fillet round the boards.
         QPainter g(&p);
+        g.translate(-r.topLeft());
+        g.fillRect(QRect(QPoint(), t), rg);
+        g.end();
+        images.push_back({std::move(p), r.topLeft()});
+    }
+    grain_noir(images, t, 6);
+    std::vector<QPixmap> pixmaps;
+    for (Partie& partie : images) {
+        // A gilt fillet round the boards.
+        QPainter g(&partie.image);
+        g.translate(-partie.origine);
         const int m = std::max(2, t.width() / 160);
         g.setPen(QPen(or_vieux, std::max(1, m / 3)));
         g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
         g.end();
-        return QPixmap::fromImage(std::move(p));
-    });
+        pixmaps.push_back(QPixmap::fromImage(std::move(partie.image)));
+    }
+    return pixmaps;
+}
+
+QPixmap couverture(QSize t) {
+    return garde(QStringLiteral("couverture"), t,
+                 [&] { return couverture(t, {QRect(QPoint(), t)}).front(); });
 }
 
 void page(QPainter& g, QSize t, bool gauche) {

@@ -3,19 +3,23 @@
 // roles in the windows.
 
 #include <QColor>
+#include <QImage>
 #include <QPixmap>
+#include <QRect>
 #include <QRectF>
 #include <QSize>
 #include <QString>
 #include <vector>
 
-class QImage;
 class QPainter;
 
 namespace agenda::ui::icc {
 
 QPixmap couverture(QSize taille); // the leather under the open book
-QPixmap icone(QSize taille);      // the program's own: the bound book, open
+// The same leather in parts of the whole only, where it shows between what lies on it: each
+// part's picture as the whole has it there.
+std::vector<QPixmap> couverture(QSize taille, const std::vector<QRect>& parties);
+QPixmap icone(QSize taille); // the program's own: the bound book, open
 // A page, its gutter towards the spine, drawn straight on the painter: the page surfaces keep
 // what they show, so the picture is kept nowhere else.
 void page(QPainter& g, QSize taille, bool gauche);
@@ -72,9 +76,14 @@ QPixmap interrupteur(bool oui, QSize taille);
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels.
 void grain(QPainter& g, QSize taille, int densite, QColor c);
-// The same grain in black, blended straight into the pixels of an ARGB32 premultiplied image,
-// as the painter's source-over blends it: for the cover's 126,000 points, where the painter's
-// path per point was a third of the start-up.
-void grain_noir(QImage& image, int densite);
+// The same grain in black, blended straight into the pixels of ARGB32 premultiplied images, as
+// the painter's source-over blends it: for the cover's 126,000 points, where the painter's path
+// per point was a third of the start-up. The grain is that of a whole of size `entiere`; each
+// image is the part of the whole at its origin.
+struct Partie {
+    QImage image;
+    QPoint origine;
+};
+void grain_noir(std::vector<Partie>& parties, QSize entiere, int densite);
 
 } // namespace agenda::ui::icc

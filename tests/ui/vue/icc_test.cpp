@@ -1,4 +1,5 @@
-// The cover's grain is blended by hand for speed: it must give the painter's very pixels.
+// The cover's grain is blended by hand for speed: it must give the painter's very pixels; and
+// the cover drawn in parts must give, in each, the pixels of the whole.
 
 #include "ui/vue/icc.h"
 
@@ -22,13 +23,29 @@ TEST(Grain, LesPixelsDuPeintre) {
             lg.setColorAt(1, QColor(0, 40, 255, 90));
             g.fillRect(fond.rect(), lg);
         }
-        QImage peint = fond, a_la_main = fond;
+        QImage peint = fond;
         {
             QPainter g(&peint);
             icc::grain(g, taille, 6, Qt::black);
         }
-        icc::grain_noir(a_la_main, 6);
-        EXPECT_EQ(peint, a_la_main) << taille.width() << "x" << taille.height();
+        std::vector<icc::Partie> a_la_main{{fond, QPoint(0, 0)}};
+        icc::grain_noir(a_la_main, taille, 6);
+        EXPECT_EQ(peint, a_la_main.front().image) << taille.width() << "x" << taille.height();
         EXPECT_NE(peint, fond);
     }
+}
+
+TEST(Couverture, ChaquePartieTelleQueDansLeTout) {
+    const QSize tout(1280, 923);
+    const QImage entiere = icc::couverture(tout, {QRect(QPoint(), tout)}).front().toImage();
+    // The margins, a page's corners, a part across the gilt fillet, a pixel, the last corner.
+    const std::vector<QRect> parties = {{0, 0, 50, 923},  {1225, 0, 55, 923}, {50, 912, 1175, 11},
+                                        {50, 0, 11, 11},  {589, 901, 11, 11}, {4, 300, 9, 40},
+                                        {640, 461, 1, 1}, {1279, 922, 1, 1}};
+    const std::vector<QPixmap> images = icc::couverture(tout, parties);
+    ASSERT_EQ(images.size(), parties.size());
+    for (std::size_t i = 0; i < parties.size(); ++i)
+        EXPECT_EQ(images[i].toImage(), entiere.copy(parties[i]))
+            << parties[i].x() << "," << parties[i].y() << " " << parties[i].width() << "x"
+            << parties[i].height();
 }

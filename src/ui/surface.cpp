@@ -1,9 +1,11 @@
 #include "ui/surface.h"
 
 #include <cmath>
+#include <map>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPalette>
 
 namespace agenda::ui {
@@ -62,25 +64,38 @@ std::int32_t Surface::couleur_point(int x, int y) const {
     return b == boites_.rend() ? fond_ : b->couleur;
 }
 
-const QFontMetricsF& Surface::mesures() const {
-    if (!mesures_ || police_mesuree_ != police_ || taille_mesuree_ != taille_) {
-        mesures_.emplace(police_twips(police_, taille_));
-        largeurs_.clear();
-        police_mesuree_ = police_;
-        taille_mesuree_ = taille_;
-    }
-    return *mesures_;
+namespace {
+
+struct Mesures {
+    QFontMetricsF metriques;
+    QHash<QString, int> largeurs; // of the texts measured in that font
+};
+
+// The measures of each font and size the surfaces write in, made once for the program: a day's
+// ruling switches between two sizes at every hour, and a text laid character by character is
+// measured at each character. Never freed, as a font must not outlive the application.
+Mesures& mesures(const QString& police, double taille) {
+    static auto* toutes = new std::map<std::pair<QString, double>, Mesures>;
+    auto it = toutes->find({police, taille});
+    if (it == toutes->end())
+        it = toutes
+                 ->emplace(std::pair(police, taille),
+                           Mesures{QFontMetricsF(police_twips(police, taille)), {}})
+                 .first;
+    return it->second;
 }
 
+} // namespace
+
 int Surface::hauteur_texte(const QString&) const {
-    return int(std::lround(mesures().height()));
+    return int(std::lround(mesures(police_, taille_).metriques.height()));
 }
 
 int Surface::largeur_texte(const QString& texte) const {
-    const QFontMetricsF& m = mesures();
-    auto it = largeurs_.find(texte);
-    if (it == largeurs_.end())
-        it = largeurs_.insert(texte, int(std::lround(m.horizontalAdvance(texte))));
+    Mesures& m = mesures(police_, taille_);
+    auto it = m.largeurs.find(texte);
+    if (it == m.largeurs.end())
+        it = m.largeurs.insert(texte, int(std::lround(m.metriques.horizontalAdvance(texte))));
     return *it;
 }
 

@@ -4,10 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 #include <QColor>
-#include <QFontMetricsF>
-#include <QHash>
+#include <QFont>
 #include <QString>
 #include <vector>
 
@@ -76,14 +74,6 @@ public:
     }
 
 private:
-    // The measures of the current font, made once for as long as the font stays: a text laid
-    // character by character is measured at each character.
-    const QFontMetricsF& mesures() const;
-    mutable std::optional<QFontMetricsF> mesures_;
-    mutable QHash<QString, int> largeurs_; // of the texts measured in that font
-    mutable QString police_mesuree_;
-    mutable double taille_mesuree_ = 0;
-
     QString police_ = QStringLiteral("Arial");
     double taille_ = 8;
     std::int32_t couleur_texte_ = 0;

@@ -466,8 +466,10 @@ void Torva1Vue::montre() {
 }
 
 void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiquettes) {
-    // The labels are kept from one showing to the next and only hidden when fewer are needed:
-    // no label is deleted while its own click may be running, and no style sheet is parsed.
+    // The labels are kept from one showing to the next: no label is deleted while its own click
+    // may be running, and no style sheet is parsed. Those not needed are shrunk to nothing
+    // rather than hidden, for showing a widget again asks the X server where the pointer is: a
+    // round trip per label at every day step.
     Reserve& reserve = reserves_[std::size_t(r)];
     std::size_t k = 0;
     if (etiquettes) {
@@ -485,7 +487,7 @@ void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiqu
         }
     }
     for (; k < reserve.etiquettes.size(); ++k)
-        reserve.etiquettes[k]->hide();
+        reserve.etiquettes[k]->setGeometry(QRect());
 }
 
 void Torva1Vue::clic_etiquette(int r, int i) {

@@ -102,7 +102,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
                     [this] { l_.Image2_Click(); });
     image2_->setToolTip(QStringLiteral("Fiche du client"));
 
-    g1_ = grille(Detarv::g1_rect, int(l_.g1.size()), 2);
+    g1_ = grille(Detarv::g1_rect, int(l_.g1.size()), 2, 9);
     g1_->setColumnWidth(0, ui::px(3000));
     g1_->setColumnWidth(1, ui::px(1100));
     g1_->verticalHeader()->setDefaultSectionSize(ui::px(300));
@@ -113,10 +113,9 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     connect(g1_, &QTableWidget::cellClicked, this,
             [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });
 
-    g2_ = grille(Detarv::g2_rect, 4, 4);
+    g2_ = grille(Detarv::g2_rect, 4, 4, 8);
     // "1h30" must show whole in a cell a quarter of the grid wide.
     g2_->setTextElideMode(Qt::ElideNone);
-    g2_->setFont(ui::police(QStringLiteral("DejaVu Sans"), 8));
     g2_->verticalHeader()->setDefaultSectionSize(ui::px(410));
     g2_->horizontalHeader()->setDefaultSectionSize(ui::px(490));
     for (int r = 0; r < 4; ++r) {
@@ -216,14 +215,14 @@ bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
 }
 
 // A grid of cells to click, without headers, editing or selection.
-QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes) {
+QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes, double points) {
     auto* g = new QTableWidget(lignes, colonnes, this);
     ui::place(*g, r);
     g->horizontalHeader()->hide();
     g->verticalHeader()->hide();
     g->setEditTriggers(QAbstractItemView::NoEditTriggers);
     g->setSelectionMode(QAbstractItemView::NoSelection);
-    g->setFont(ui::police(QStringLiteral("DejaVu Sans"), 9));
+    g->setFont(ui::police(QStringLiteral("DejaVu Sans"), points));
     return g;
 }
 
@@ -231,10 +230,11 @@ QComboBox* DetarvVue::combo(const RectTwips& r, const QStringList& liste, QStrin
                             std::function<void()> clic) {
     auto* c = new QComboBox(this);
     ui::place(*c, r);
+    // The font before the parts the combo makes for editing, which take it as they are made.
+    c->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
     c->setEditable(true);
     c->setInsertPolicy(QComboBox::NoInsert); // typed times do not join the lists
     c->addItems(liste);
-    c->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
     connect(c, &QComboBox::editTextChanged, this,
             [this, champ](const QString& t) { l_.*champ = t; });
     connect(c, &QComboBox::activated, this, [this, c, champ, clic](int i) {

@@ -34,7 +34,7 @@ protected:
 
 private:
     void montre() override;
-    QTableWidget* grille(const ui::RectTwips& r, int lignes, int colonnes);
+    QTableWidget* grille(const ui::RectTwips& r, int lignes, int colonnes, double points);
     QComboBox* combo(const ui::RectTwips& r, const QStringList& liste, QString Detarv::*champ,
                      std::function<void()> clic);
 

@@ -3,6 +3,8 @@
 #include "ui/erreur.h"
 #include "ui/vue/echelle.h"
 
+#include <QLabel>
+#include <QPainter>
 #include <QTimer>
 #include <vector>
 
@@ -57,7 +59,6 @@ void au_premier_plan() {
 VueModale::VueModale(FenetreModale& logique, int largeur, int hauteur)
     : QDialog(dessus(), Qt::Dialog | Qt::FramelessWindowHint), Vue(logique), modale_(logique) {
     setFixedSize(px(largeur), px(hauteur));
-    setStyleSheet(QStringLiteral("QDialog { background: #fbf6e8; } QLabel { color: #4a2c1a; }"));
     modale_.sur_fermeture = [this] { accept(); };
 }
 
@@ -69,6 +70,23 @@ void VueModale::ouvre() {
     pile().push_back(this);
     exec();
     pile().pop_back();
+}
+
+void VueModale::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), QColor(0xfb, 0xf6, 0xe8));
+}
+
+void VueModale::showEvent(QShowEvent* e) {
+    // Every caption the window holds is made by now. One with a style sheet of its own keeps
+    // the ink that sheet gives it.
+    for (QLabel* l : findChildren<QLabel*>()) {
+        QPalette p = l->palette();
+        // A caption on a button writes in the button's text colour.
+        for (const QPalette::ColorRole r : {QPalette::WindowText, l->foregroundRole()})
+            p.setColor(r, QColor(0x4a, 0x2c, 0x1a));
+        l->setPalette(p);
+    }
+    QDialog::showEvent(e);
 }
 
 void VueModale::reject() {

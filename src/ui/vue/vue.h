@@ -51,6 +51,11 @@ public:
 
 protected:
     void reject() override;
+    // The windows' paper, and their captions in the book's ink. Set by hand rather than by a
+    // style sheet on the window, which would style every widget in it and make each opening
+    // slower by half.
+    void paintEvent(QPaintEvent* e) override;
+    void showEvent(QShowEvent* e) override;
 
 private:
     FenetreModale& modale_;

@@ -418,7 +418,10 @@ QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points,
     ui::place(*l, r);
     l->setFont(ui::police(QStringLiteral("DejaVu Serif"), points, gras));
     l->setAlignment(a);
-    l->setStyleSheet(QStringLiteral("color: #4a2c1a; background: transparent;"));
+    // The book's ink, by the palette: a style sheet would cost each caption a styled polish.
+    QPalette p = l->palette();
+    p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x1a));
+    l->setPalette(p);
     return l;
 }
 

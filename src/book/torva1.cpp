@@ -12,6 +12,7 @@
 #include "editor/detarv.h"
 #include "editor/inter.h"
 #include "editor/saisnote.h"
+#include "input/date_97.h"
 #include "planning/saisiuti.h"
 #include "planning/torva11.h"
 #include "search/torvar.h"
@@ -450,8 +451,7 @@ void Torva1::decod_semaine() {
 }
 
 void Torva1::affiche_nom_jour(int k) {
-    njours[std::size_t(k)] =
-        initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
+    njours[std::size_t(k)] = jour_en_lettres(etat.date_courante);
 }
 
 void Torva1::dessine_semaine(ui::Surface& surface) {

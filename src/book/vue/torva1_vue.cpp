@@ -10,7 +10,7 @@
 
 #include "book/vue/impression.h"
 #include "calendar/calendrier.h"
-#include "data/texte.h"
+#include "input/date_97.h"
 #include "ui/dates.h"
 
 #include <cmath>
@@ -235,10 +235,9 @@ Torva1Vue::~Torva1Vue() {
 
 void Torva1Vue::imprime() {
     const bool semaine = l_.vue_visible == 1;
-    const QString quand =
-        semaine ? QStringLiteral("Semaine du ") +
-                      ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy")
-                : initiale_majuscule(ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy"));
+    const QString quand = semaine ? QStringLiteral("Semaine du ") +
+                                        ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy")
+                                  : jour_en_lettres(etat.date_courante);
     ui::imprime(this,
                 semaine ? QStringLiteral("Imprimer la semaine")
                         : QStringLiteral("Imprimer la journée"),
@@ -420,7 +419,7 @@ QLabel* Torva1Vue::texte(QWidget* parent, const ui::RectTwips& r, double points,
     l->setAlignment(a);
     // The book's ink, by the palette: a style sheet would cost each caption a styled polish.
     QPalette p = l->palette();
-    p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x1a));
+    p.setColor(QPalette::WindowText, ui::icc::encre);
     l->setPalette(p);
     return l;
 }

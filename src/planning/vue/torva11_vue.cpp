@@ -1,7 +1,6 @@
 #include "planning/vue/torva11_vue.h"
 
-#include "data/texte.h"
-#include "ui/dates.h"
+#include "input/date_97.h"
 #include "ui/vue/boutons.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
@@ -70,7 +69,7 @@ Torva11Vue::Torva11Vue(Torva11& l) : VueModale(l, ui::largeur_livre, ui::hauteur
     // A white sheet with a soft edge: the colour under the pointer is the surface's own.
     p1_ = new ui::VueSurface(this, [](QPainter& g, QSize s) {
         g.setRenderHint(QPainter::Antialiasing);
-        g.setPen(QPen(QColor(0xe2, 0xd6, 0xbb), 2));
+        g.setPen(QPen(ui::icc::papier_ombre, 2));
         g.setBrush(Qt::white);
         g.drawRoundedRect(QRectF(1, 1, s.width() - 2, s.height() - 2), 10, 10);
     });
@@ -124,11 +123,10 @@ Torva11Vue::Torva11Vue(Torva11& l) : VueModale(l, ui::largeur_livre, ui::hauteur
 
 void Torva11Vue::imprime() {
     const ui::RectTwips p1 = Torva11::p1_rect;
-    const QString jour = ui::format_date(etat.date_courante, u"dddd dd mmmm yyyy");
     ui::imprime(this, QStringLiteral("Imprimer le planning"),
-                QStringLiteral("Planning — ") + initiale_majuscule(jour),
+                QStringLiteral("Planning — ") + jour_en_lettres(etat.date_courante),
                 QSize(p1.width, p1.height), [this, p1](QPainter& g) {
-                    g.setPen(QPen(QColor(0xe2, 0xd6, 0xbb), 30));
+                    g.setPen(QPen(ui::icc::papier_ombre, 30));
                     g.drawRoundedRect(QRectF(15, 15, p1.width - 30, p1.height - 30), 150, 150);
                     ui::dessine_surface(g, l_.p1);
                     g.setPen(QPen(QColor(0x00, 0x00, 0x80), 30));

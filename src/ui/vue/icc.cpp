@@ -24,9 +24,6 @@ namespace {
 const QColor cuir_clair(0x7a, 0x22, 0x2a);
 const QColor cuir_fonce(0x3b, 0x0c, 0x12);
 const QColor or_vieux(0xc9, 0xa4, 0x4c);
-const QColor papier(0xfb, 0xf6, 0xe8);
-const QColor papier_ombre(0xe2, 0xd6, 0xbb);
-const QColor encre(0x4a, 0x2c, 0x1a);
 
 // The pictures are the team's, not records: each is drawn once for its role and size, and kept
 // for the life of the program (never freed, as a picture must not outlive the application).

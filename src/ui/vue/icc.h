@@ -15,6 +15,10 @@ class QPainter;
 
 namespace agenda::ui::icc {
 
+// The book's paper, its shade towards the edges, and the ink of its captions.
+inline const QColor papier(0xfb, 0xf6, 0xe8), papier_ombre(0xe2, 0xd6, 0xbb),
+    encre(0x4a, 0x2c, 0x1a);
+
 QPixmap couverture(QSize taille); // the leather under the open book
 // The same leather in parts of the whole only, where it shows between what lies on it: each
 // part's picture as the whole has it there.

@@ -1,6 +1,7 @@
 #include "ui/vue/impression.h"
 
 #include "ui/surface.h"
+#include "ui/vue/icc.h"
 
 #include <algorithm>
 #include <QPainter>
@@ -27,7 +28,7 @@ void fixe_dialogue_impression(std::function<bool(QPrinter&)> dialogue) {
 void texte_imprime(QPainter& g, const QRectF& r, const QString& texte, const QFont& police,
                    int alignement) {
     g.setFont(police);
-    g.setPen(QColor(0x4a, 0x2c, 0x1a));
+    g.setPen(icc::encre);
     g.drawText(r, alignement | Qt::TextWordWrap, texte);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/erreur.h"
 #include "ui/vue/echelle.h"
+#include "ui/vue/icc.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -73,7 +74,7 @@ void VueModale::ouvre() {
 }
 
 void VueModale::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), QColor(0xfb, 0xf6, 0xe8));
+    QPainter(this).fillRect(rect(), icc::papier);
 }
 
 void VueModale::showEvent(QShowEvent* e) {
@@ -83,7 +84,7 @@ void VueModale::showEvent(QShowEvent* e) {
         QPalette p = l->palette();
         // A caption on a button writes in the button's text colour.
         for (const QPalette::ColorRole r : {QPalette::WindowText, l->foregroundRole()})
-            p.setColor(r, QColor(0x4a, 0x2c, 0x1a));
+            p.setColor(r, icc::encre);
         l->setPalette(p);
     }
     QDialog::showEvent(e);

@@ -15,15 +15,57 @@
 #include "ui/liste_triee.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <optional>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
 
 namespace agenda {
 
 namespace {
 
+// Where the blanks that pad a text begin: nothing is sought past there. Read from the end, a
+// whole vector at a time, since a text is mostly its padding.
+std::size_t fin_du_texte_simple(const std::uint8_t* p, std::size_t n) {
+    while (n > 0 && p[n - 1] == ' ')
+        --n;
+    return n;
+}
+
+#if defined(__x86_64__)
+__attribute__((target("avx2"))) std::size_t fin_du_texte_avx2(const std::uint8_t* p,
+                                                              std::size_t n) {
+    const __m256i blanc = _mm256_set1_epi8(' ');
+    for (; n >= 64; n -= 64) {
+        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + n - 64));
+        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + n - 32));
+        const __m256i blancs =
+            _mm256_and_si256(_mm256_cmpeq_epi8(a, blanc), _mm256_cmpeq_epi8(b, blanc));
+        if (_mm256_movemask_epi8(blancs) != -1) break;
+    }
+    for (; n >= 32; n -= 32) {
+        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + n - 32));
+        const auto autres = ~std::uint32_t(_mm256_movemask_epi8(_mm256_cmpeq_epi8(a, blanc)));
+        // The last byte that is not a blank, and the text ends after it.
+        if (autres != 0) return n - std::size_t(std::countl_zero(autres));
+    }
+    return fin_du_texte_simple(p, n);
+}
+#endif
+
+std::size_t fin_du_texte(std::span<const std::uint8_t> texte) {
+#if defined(__x86_64__)
+    static const bool avx2 = __builtin_cpu_supports("avx2");
+    if (avx2) return fin_du_texte_avx2(texte.data(), texte.size());
+#endif
+    return fin_du_texte_simple(texte.data(), texte.size());
+}
+
 // A word sought in a text field's bytes, as the lower-cased text would hold it, without decoding
-// each record: the scan meets every record of twenty files.
+// each record: the scan meets every record of twenty files. The word has no blank at either end.
 class Mot {
 public:
     // nullopt: a word that no CP1252 text can hold, so that nothing matches.
@@ -46,11 +88,19 @@ public:
         return m;
     }
 
-    bool dans(std::span<const std::uint8_t> texte) const {
-        const std::size_t n = octets_.size(), t = texte.size();
+    bool dans(std::span<const std::uint8_t> tout_le_texte) const {
+        const std::size_t n = octets_.size();
         if (n == 0) return true;
+        const auto texte = tout_le_texte.first(fin_du_texte(tout_le_texte));
+        const std::size_t t = texte.size();
         if (n > t) return false;
-        if (rapide_ && !peut_etre(texte)) return false;
+        return (!rapide_ || peut_etre(texte)) && cherche(texte);
+    }
+
+private:
+    // Apart, so that the scan's path for the records turned away stays small.
+    [[gnu::noinline]] bool cherche(std::span<const std::uint8_t> texte) const {
+        const std::size_t t = texte.size();
         std::array<std::uint8_t, 512> bas;
         for (std::size_t i = 0; i < t; ++i)
             bas[i] = minuscule()[texte[i]];
@@ -58,7 +108,6 @@ public:
                            octets_.end()) != bas.begin() + std::ptrdiff_t(t);
     }
 
-private:
     // Whether the first two bytes of the word (or the one) stand somewhere, in either case, give
     // or take a few symbols: sixteen places at a time, which turns most records away at the
     // speed the bytes come from the cache.
@@ -73,13 +122,8 @@ private:
             std::memcpy(&y, texte.data() + i + decalage_, l);
             const V premier = V((x | casse_) == va_);
             vu |= decalage_ ? V(premier & V((y | casse_) == vb_)) : premier;
-            // A text is mostly its padding: where only blanks are left, there is nothing to find
-            // (the word, trimmed, does not start with one).
-            if (tout(V(x == blanc_), ~std::uint64_t(0)) &&
-                std::memcmp(texte.data() + i, blancs().data(), n - i) == 0)
-                return !tout(vu, 0);
         }
-        if (!tout(vu, 0)) return true;
+        if (!rien(vu)) return true;
         const std::uint8_t a = va_[0], b = vb_[0];
         for (; i + decalage_ < n; ++i)
             if ((texte[i] | 0x20) == a && (!decalage_ || (texte[i + 1] | 0x20) == b)) return true;
@@ -91,19 +135,10 @@ private:
         std::memset(&v, o, sizeof v);
         return v;
     }
-    static bool tout(V v, std::uint64_t attendu) {
+    static bool rien(V v) {
         std::array<std::uint64_t, sizeof(V) / 8> parts;
         std::memcpy(parts.data(), &v, sizeof parts);
-        return std::all_of(parts.begin(), parts.end(),
-                           [&](std::uint64_t p) { return p == attendu; });
-    }
-    static const std::array<std::uint8_t, 512>& blancs() {
-        static const auto b = [] {
-            std::array<std::uint8_t, 512> t;
-            t.fill(' ');
-            return t;
-        }();
-        return b;
+        return std::all_of(parts.begin(), parts.end(), [](std::uint64_t p) { return p == 0; });
     }
     // Each byte as its character in lower case would be stored.
     static const std::array<std::uint8_t, 256>& minuscule() {
@@ -122,8 +157,21 @@ private:
     std::vector<std::uint8_t> octets_;
     bool rapide_ = true;
     std::size_t decalage_ = 0; // 1 when the quick test looks at two bytes
-    V va_{}, vb_{}, casse_ = partout(0x20), blanc_ = partout(' ');
+    V va_{}, vb_{}, casse_ = partout(0x20);
 };
+
+// The first six bytes as one number that orders as the bytes do.
+std::uint64_t six_premiers(const std::uint8_t* p) {
+    std::uint32_t quatre;
+    std::uint16_t deux;
+    std::memcpy(&quatre, p, 4);
+    std::memcpy(&deux, p + 4, 2);
+    if constexpr (std::endian::native == std::endian::little) {
+        quatre = __builtin_bswap32(quatre);
+        deux = __builtin_bswap16(deux);
+    }
+    return std::uint64_t(quatre) << 16 | deux;
+}
 
 // "yymmdd" as a day, month and day overflowing into the next as a date's parts do.
 Date jour_de_cle(const QString& cle) {
@@ -152,8 +200,20 @@ void Torvar::recherche_rv() {
     const QByteArray limite = Check1[0] != 0
                                   ? octets::vers_cp1252(motif_jour(ui::date_maintenant()))
                                   : QByteArray("000000");
+    const std::uint64_t depuis =
+                            six_premiers(reinterpret_cast<const std::uint8_t*>(limite.constData())),
+                        annule = six_premiers(reinterpret_cast<const std::uint8_t*>("------"));
     const std::int32_t client = etat.num_client_courant;
     const std::optional<Mot> mot = Mot::de(critere_rv);
+    // Apart from the scan's loop, which the records turned away keep to.
+    const auto ajoute = [this](int c, std::int32_t n, std::span<const std::uint8_t> rec)
+        __attribute__((noinline)) {
+        const QString debut = RecRv::cle_rv.dans(rec).left(13) + QLatin1Char('|') +
+                              motif_zeros(c, 2) + QLatin1Char('|') + motif_zeros(n, 6) +
+                              QLatin1Char('|');
+        List1.push_back(cadre(debut, 99) +
+                        remplace_retours(RecRv::texte_rv.sans_blancs_dans(rec), u" "));
+    };
     for (int c = 1; c <= collaborateurs; ++c) {
         ouvre_rv_de(std::int16_t(c));
         FichierRecords& f = canal_fichier(canal::rv);
@@ -162,18 +222,12 @@ void Torvar::recherche_rv() {
         parcourt<RecRv>(f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
             // Voided, or before the limit (a blank key sorts below "0"): bytes compare as the
             // texts do against a limit of digits.
-            if (std::memcmp(rec.data(), "------", 6) == 0 ||
-                std::memcmp(rec.data(), limite.constData(), 6) < 0)
-                return true;
+            const std::uint64_t debut_cle = six_premiers(rec.data());
+            if (debut_cle == annule || debut_cle < depuis) return true;
             if (client != 0 && octets::i32(rec, RecRv::num_client.offset) != client) return true;
             const auto texte = rec.subspan(std::size_t(RecRv::texte_rv.offset),
                                            std::size_t(RecRv::texte_rv.largeur));
-            if (!mot || !mot->dans(texte)) return true;
-            const QString debut = RecRv::cle_rv.dans(rec).left(13) + QLatin1Char('|') +
-                                  motif_zeros(c, 2) + QLatin1Char('|') + motif_zeros(n, 6) +
-                                  QLatin1Char('|');
-            List1.push_back(cadre(debut, 99) +
-                            remplace_retours(RecRv::texte_rv.sans_blancs_dans(rec), u" "));
+            if (mot && mot->dans(texte)) ajoute(c, n, rec);
             return true;
         });
     }

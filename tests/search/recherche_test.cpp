@@ -22,8 +22,13 @@ protected:
                   rv("040302:09H00:09H30", "dupont hier") + rv("----------", "Dupont efface") +
                   rv("", "Dupont transfere") + rv("040304:08H00:09H00", "  Marie\r\nDupont  ") +
                   rv("040305:10H00", "d\xfbpont"));
+        // The word far into the text, after a long run of blanks: at the field's very end, and
+        // with blanks behind it.
+        const std::string fin = "Note" + std::string(387, ' ') + "Dupont Paul";
+        const std::string milieu = "Note" + std::string(300, ' ') + "dupont";
         ecrit(QStringLiteral("tf_r0002.wdo"),
-              agenda::test::rv_entete(1) + rv("040303:09H30:10H00", "Dupont aussi", 0, 7));
+              agenda::test::rv_entete(3) + rv("040303:09H30:10H00", "Dupont aussi", 0, 7) +
+                  rv("040306:10H00", fin.c_str()) + rv("040306:09H00", milieu.c_str()));
         critere_rv.clear();
     }
     void TearDown() override {
@@ -51,10 +56,18 @@ TEST_F(Recherche, CeQuiEstUnResultatEtDansQuelOrdre) {
         QStringList attendus;
     } const cas[] = {
         // Any case; never a voided or transferred record; an accent is not folded.
-        {"dup", 0, 0, {"01|000002", "01|000001", "02|000001", "01|000005"}},
-        {"dup", 0, 1, {"01|000001", "02|000001", "01|000005"}}, // today stays, yesterday goes
+        {"dup",
+         0,
+         0,
+         {"01|000002", "01|000001", "02|000001", "01|000005", "02|000003", "02|000002"}},
+        {"dup",
+         0,
+         1,
+         {"01|000001", "02|000001", "01|000005", "02|000003",
+          "02|000002"}}, // today stays, yesterday goes
         {"", 7, 0, {"01|000001", "02|000001"}},
         {"dû", 0, 0, {"01|000006"}},
+        {"paul", 0, 0, {"02|000002"}},
         {"ie\r\ndu", 0, 0, {"01|000005"}}, // the text as stored, line break and all
         {"ω", 0, 0, {}},
     };
@@ -95,7 +108,7 @@ TEST_F(Recherche, BoutonsEtEditeur) {
                   "Vous devez préciser un crière de recherche d'au poins trois lettres !")});
     t.Text1 = QStringLiteral(" DUP ");
     t.btc_rech_Click();
-    ASSERT_EQ(t.List1.size(), 4u);
+    ASSERT_EQ(t.List1.size(), 6u);
     // A row opens its appointment, on its collaborator's file and date; deleted there, it is gone
     // from the search that follows, which keeps to the client the editor showed.
     ui::scenario<Detarv>([&](Detarv& d) {

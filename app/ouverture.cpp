@@ -17,6 +17,7 @@
 #include "ui/systeme.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
+#include "ui/vue/style.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -49,6 +50,7 @@ void enregistre_fenetres() {
 
 std::unique_ptr<Programme> ouvre_programme() {
     QApplication::setApplicationName(QStringLiteral("Agenda"));
+    QApplication::setStyle(new ui::StyleDuLivre);
     QApplication::setWindowIcon(ui::icc::icone(QSize(256, 256)));
     // The window manager finds the menu entry, and its icon, by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("fr.agenda.Agenda"));

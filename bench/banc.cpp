@@ -2,8 +2,10 @@
 
 #include "data/fichier_records.h"
 
+#include <array>
 #include <cstdio>
 #include <fcntl.h>
+#include <memory>
 #include <QDir>
 #include <QTemporaryDir>
 #include <unistd.h>

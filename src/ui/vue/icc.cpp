@@ -150,12 +150,23 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
     static std::map<std::pair<int, int>, int> tailles;
     auto [taille, nouvelle] = tailles.try_emplace({t.width(), t.height()}, 0);
     if (nouvelle) {
-        int& essai = taille->second;
-        essai = std::max(6, t.width() * 9 / 20);
-        for (f.setPixelSize(essai); essai > 6; f.setPixelSize(--essai))
-            if (QFontMetrics(f).horizontalAdvance(QString::fromUtf8(titres[4])) <=
-                t.height() * 0.85)
-                break;
+        const auto longueur = [&](int pixels) {
+            f.setPixelSize(pixels);
+            return QFontMetrics(f).horizontalAdvance(QString::fromUtf8(titres[4]));
+        };
+        const qreal place = t.height() * 0.85;
+        const auto tient = [&](int pixels) { return pixels <= 6 || longueur(pixels) <= place; };
+        // The largest size up to the tab's that fits: guessed from the width at the tab's size,
+        // which grows with the size, then checked on either side.
+        const int plus_grande = std::max(6, t.width() * 9 / 20);
+        int essai = plus_grande;
+        if (const int l = longueur(plus_grande); l > place)
+            essai = std::clamp(int(plus_grande * place / l), 6, plus_grande - 1);
+        while (!tient(essai))
+            --essai;
+        while (essai < plus_grande && tient(essai + 1))
+            ++essai;
+        taille->second = essai;
     }
     f.setPixelSize(taille->second);
     const QString titre = QString::fromUtf8(titres[std::size_t(i)]);

@@ -1,0 +1,15 @@
+#pragma once
+// The program's widget style: the platform's own, but for the month control's arrows, which are
+// the toolkit's built-in ones on every desktop, as the book draws them.
+
+#include <QProxyStyle>
+
+namespace agenda::ui {
+
+class StyleDuLivre : public QProxyStyle {
+public:
+    QIcon standardIcon(StandardPixmap icone, const QStyleOption* option,
+                       const QWidget* widget) const override;
+};
+
+} // namespace agenda::ui

@@ -184,6 +184,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     calend_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calend_->setGridVisible(false);
     calend_->setFont(ui::police(QStringLiteral("Arial"), 8));
+    // Its parts cover it whole: said opaque, it is not repainted with the page under it.
+    calend_->setAutoFillBackground(true);
     connect(calend_, &QCalendarWidget::clicked, this,
             [this](QDate d) { appelle([&] { l_.calend_Click(ui::date_de(d)); }); });
 

@@ -39,7 +39,14 @@ void VueSurface::montre(const Surface* surface) {
     if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
     surface_ = surface ? std::optional(*surface) : std::nullopt;
     rendu_ = QPixmap();
-    update();
+    // What opaque children cover is not repainted with the drawing: a day step leaves the
+    // month control's cells alone but the two whose selection moved.
+    QRegion a_repeindre(rect());
+    for (const QObject* o : children())
+        if (const auto* w = qobject_cast<const QWidget*>(o);
+            w && !w->isHidden() && w->autoFillBackground())
+            a_repeindre -= w->geometry();
+    update(a_repeindre);
 }
 
 void VueSurface::paintEvent(QPaintEvent*) {

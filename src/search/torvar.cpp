@@ -27,8 +27,7 @@ namespace agenda {
 
 namespace {
 
-// Where the blanks that pad a text begin: nothing is sought past there. Read from the end, a
-// whole vector at a time, since a text is mostly its padding.
+// The text without the blanks that pad it, a byte at a time from its end.
 std::size_t fin_du_texte_simple(const std::uint8_t* p, std::size_t n) {
     while (n > 0 && p[n - 1] == ' ')
         --n;
@@ -56,6 +55,8 @@ __attribute__((target("avx2"))) std::size_t fin_du_texte_avx2(const std::uint8_t
 }
 #endif
 
+// Where the blanks that pad a text begin: nothing is sought past there. Read from the end, a
+// whole vector at a time where the processor has them, since a text is mostly its padding.
 std::size_t fin_du_texte(std::span<const std::uint8_t> texte) {
 #if defined(__x86_64__)
     static const bool avx2 = __builtin_cpu_supports("avx2");

@@ -38,11 +38,14 @@ std::size_t fin_du_texte_simple(const std::uint8_t* p, std::size_t n) {
 __attribute__((target("avx2"))) std::size_t fin_du_texte_avx2(const std::uint8_t* p,
                                                               std::size_t n) {
     const __m256i blanc = _mm256_set1_epi8(' ');
-    for (; n >= 64; n -= 64) {
-        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + n - 64));
-        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + n - 32));
+    // Four vectors a step while all are blank, then one at a time inside the last step.
+    for (; n >= 128; n -= 128) {
+        const auto* q = reinterpret_cast<const __m256i*>(p + n - 128);
         const __m256i blancs =
-            _mm256_and_si256(_mm256_cmpeq_epi8(a, blanc), _mm256_cmpeq_epi8(b, blanc));
+            _mm256_and_si256(_mm256_and_si256(_mm256_cmpeq_epi8(_mm256_loadu_si256(q), blanc),
+                                              _mm256_cmpeq_epi8(_mm256_loadu_si256(q + 1), blanc)),
+                             _mm256_and_si256(_mm256_cmpeq_epi8(_mm256_loadu_si256(q + 2), blanc),
+                                              _mm256_cmpeq_epi8(_mm256_loadu_si256(q + 3), blanc)));
         if (_mm256_movemask_epi8(blancs) != -1) break;
     }
     for (; n >= 32; n -= 32) {

@@ -1,6 +1,7 @@
 #include "banc.h"
 
 #include "data/fichier_records.h"
+#include "data/formats.h"
 
 #include <array>
 #include <cstdio>
@@ -62,10 +63,10 @@ void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {
 }
 
 std::size_t lit_tout(const char* chemin) {
-    // Page-aligned as the scans' blocks are: the kernel's copy runs slower into a buffer that is
-    // not, and the allocator gives one 16 bytes past a page.
+    // A scan's block of appointments, page-aligned as the scans' blocks are: the kernel's copy
+    // runs slower into a buffer that is not, and the allocator gives one 16 bytes past a page.
     struct Bloc {
-        alignas(4096) std::array<char, 1 << 18> octets;
+        alignas(4096) std::array<char, records_par_bloc * RecRv::longueur> octets;
     };
     static const auto tampon = std::make_unique<Bloc>();
     auto& bloc = tampon->octets;

@@ -33,8 +33,8 @@ void imprime_ratio(const Medianes& m, const std::string& mesure, const std::stri
 int dans_un_dossier(int argc, char** argv, int repetitions, const std::function<void()>& prepare,
                     const std::function<void(const Medianes&)>& imprime);
 
-// The plain sequential read that a scan is measured against: the whole file in 256 KiB blocks,
-// the size of a scan's block of appointments.
+// The plain sequential read that a scan is measured against: the whole file in blocks the size
+// of a scan's block of appointments.
 std::size_t lit_tout(const char* chemin);
 
 // Runs the benchmarks chosen on the command line, `repetitions` times each unless it says

@@ -78,13 +78,16 @@ Rec record_de(std::span<const std::uint8_t> octets) {
     return rec;
 }
 
+// Records a scan reads per system call.
+inline constexpr std::int64_t records_par_bloc = 512;
+
 // Calls `visite(number, record bytes)` for numbers 1 to `compte` (records 2 to compte + 1), read
-// 512 records per system call, until the file ends or `visite` returns false. The records past
-// the end are not visited: they would read as blanks and zeros, so a count far past the end
-// costs nothing. A last record cut short is visited with its missing bytes blank.
+// `records_par_bloc` records per system call, until the file ends or `visite` returns false. The
+// records past the end are not visited: they would read as blanks and zeros, so a count far past
+// the end costs nothing. A last record cut short is visited with its missing bytes blank.
 template <class Rec, class Visite>
 void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
-    constexpr std::int64_t par_bloc = 512;
+    constexpr std::int64_t par_bloc = records_par_bloc;
     // One block per thread and format, kept: a fresh one would be mapped and faulted in at
     // every scan. It holds bytes only for one call; nothing is served from it later. Aligned to
     // the page, so that the copy from the kernel does not depend on where the allocator puts it.

@@ -39,8 +39,8 @@ void VueSurface::montre(const Surface* surface) {
     if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
     surface_ = surface ? std::optional(*surface) : std::nullopt;
     rendu_ = QPixmap();
-    // What opaque children cover is not repainted with the drawing: a day step leaves the
-    // month control's cells alone but the two whose selection moved.
+    // What opaque children cover is not repainted with the drawing: a new drawing of the page
+    // leaves the month control's cells alone.
     QRegion a_repeindre(rect());
     for (const QObject* o : children())
         if (const auto* w = qobject_cast<const QWidget*>(o);

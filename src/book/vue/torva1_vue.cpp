@@ -158,7 +158,6 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             ui::place(*b, Torva1::onglet_rect(gauche, i));
             b->setFlat(true);
             b->setCursor(Qt::PointingHandCursor);
-            b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
             b->setIconSize(b->size());
             connect(b, &QPushButton::clicked, this, [this, i, gauche] {
                 appelle([&] { gauche ? l_.ongletg_Click(i) : l_.ongletd_Click(i); });
@@ -430,8 +429,13 @@ void Torva1Vue::montre() {
     for (int i = 0; i < Torva1::nb_onglets; ++i) {
         for (const bool gauche : {true, false}) {
             QPushButton* b = (gauche ? ongletg_ : ongletd_)[std::size_t(i)];
-            b->setVisible(gauche ? l_.ongletg_visible[std::size_t(i)]
-                                 : l_.ongletd_visible[std::size_t(i)]);
+            const bool visible =
+                gauche ? l_.ongletg_visible[std::size_t(i)] : l_.ongletd_visible[std::size_t(i)];
+            b->setVisible(visible);
+            // Most tabs stay hidden: a tab's title and colours are given when it is shown.
+            if (!visible) continue;
+            if (b->icon().isNull())
+                b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
             // The colours change only with the load: a style sheet is parsed only when it does.
             const QString style = QStringLiteral("QPushButton { background: %1; border: 1px "
                                                  "solid #5a3a22; border-radius: 6px; }")

@@ -87,7 +87,31 @@ std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite, Garde&
 
 } // namespace
 
+namespace {
+
+// A point of the grain over a pixel, both premultiplied, as the painter's source over blends a
+// pen's point: each channel of the pixel times 255 - alpha over 255, rounded as the raster
+// engine does.
+QRgb sur(QRgb pixel, QRgb point) {
+    constexpr std::uint64_t masque = 0x00ff00ff00ff00ffULL;
+    std::uint64_t t = ((std::uint64_t(pixel) | (std::uint64_t(pixel) << 24)) & masque) *
+                      std::uint64_t(255 - qAlpha(point));
+    t = ((t + ((t >> 8) & masque) + 0x0080008000800080ULL) >> 8) & masque;
+    return point + (QRgb(t) | QRgb(t >> 24));
+}
+
+} // namespace
+
 void grain(QPainter& g, QSize t, int densite, QColor c) {
+    // On a picture of the grain's size, at its pixels, the points go straight into the pixels.
+    auto* image = dynamic_cast<QImage*>(g.device());
+    if (image && image->format() == QImage::Format_ARGB32_Premultiplied && image->size() == t &&
+        g.deviceTransform().type() == QTransform::TxNone && !g.hasClipping() && g.opacity() == 1 &&
+        g.compositionMode() == QPainter::CompositionMode_SourceOver) {
+        std::vector<Partie> entiere{{image, QPoint(0, 0)}};
+        grain_dans(entiere, t, densite, c);
+        return;
+    }
     const auto par_alpha = points_du_grain(t, densite, [](int, int) { return true; });
     for (int alpha = 10; alpha < 40; ++alpha) {
         const auto& points = par_alpha[std::size_t(alpha)];
@@ -97,17 +121,17 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
     }
 }
 
-void grain_noir(std::vector<Partie>& parties, QSize entiere, int densite) {
+void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor c) {
     // The parts that each row crosses: a point looks at those only, and only the points that
     // fall in a part are kept.
     std::vector<std::vector<Partie*>> par_ligne(std::size_t(std::max(0, entiere.height())));
     for (Partie& partie : parties) {
-        const QRect r = QRect(partie.origine, partie.image.size()) & QRect(QPoint(), entiere);
+        const QRect r = QRect(partie.origine, partie.image->size()) & QRect(QPoint(), entiere);
         for (int y = r.top(); y <= r.bottom(); ++y)
             par_ligne[std::size_t(y)].push_back(&partie);
     }
     const auto dans = [](const Partie& partie, int x) {
-        return x >= partie.origine.x() && x < partie.origine.x() + partie.image.width();
+        return x >= partie.origine.x() && x < partie.origine.x() + partie.image->width();
     };
     const auto par_alpha = points_du_grain(entiere, densite, [&](int x, int y) {
         const auto& ligne = par_ligne[std::size_t(y)];
@@ -115,20 +139,16 @@ void grain_noir(std::vector<Partie>& parties, QSize entiere, int densite) {
                            [&](const Partie* p) { return dans(*p, x); });
     });
     for (int alpha = 10; alpha < 40; ++alpha) {
-        const auto reste = std::uint64_t(255 - alpha);
+        // The pen's colour as the raster engine takes it: premultiplied at 16 bits, then 8.
+        c.setAlpha(alpha);
+        const QRgb point = qPremultiply(c.rgba64()).toArgb32();
         for (const QPoint& p : par_alpha[std::size_t(alpha)])
             for (Partie* partie : par_ligne[std::size_t(p.y())]) {
                 if (!dans(*partie, p.x())) continue;
                 auto* pixel =
-                    reinterpret_cast<QRgb*>(partie->image.scanLine(p.y() - partie->origine.y())) +
+                    reinterpret_cast<QRgb*>(partie->image->scanLine(p.y() - partie->origine.y())) +
                     (p.x() - partie->origine.x());
-                // Each channel times 255 - alpha over 255, rounded as the raster engine does.
-                std::uint64_t t = ((std::uint64_t(*pixel) | (std::uint64_t(*pixel) << 24)) &
-                                   0x00ff00ff00ff00ffULL) *
-                                  reste;
-                t = ((t + ((t >> 8) & 0x00ff00ff00ff00ffULL) + 0x0080008000800080ULL) >> 8) &
-                    0x00ff00ff00ff00ffULL;
-                *pixel = (QRgb(alpha) << 24) + (QRgb(t) | QRgb(t >> 24));
+                *pixel = sur(*pixel, point);
             }
     }
 }
@@ -187,27 +207,30 @@ std::vector<QPixmap> couverture(QSize t, const std::vector<QRect>& parties) {
     QRadialGradient rg(t.width() / 2.0, t.height() / 2.0, std::max(t.width(), t.height()) * 0.7);
     rg.setColorAt(0, cuir_clair);
     rg.setColorAt(1, cuir_fonce);
-    std::vector<Partie> images;
+    std::vector<QImage> images;
+    std::vector<Partie> morceaux;
+    images.reserve(parties.size());
     for (const QRect& r : parties) {
-        QImage p(r.size().expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
+        QImage& p = images.emplace_back(r.size().expandedTo(QSize(1, 1)),
+                                        QImage::Format_ARGB32_Premultiplied);
         p.fill(Qt::transparent);
         QPainter g(&p);
         g.translate(-r.topLeft());
         g.fillRect(QRect(QPoint(), t), rg);
         g.end();
-        images.push_back({std::move(p), r.topLeft()});
+        morceaux.push_back({&p, r.topLeft()});
     }
-    grain_noir(images, t, 6);
+    grain_dans(morceaux, t, 6, Qt::black);
     std::vector<QPixmap> pixmaps;
-    for (Partie& partie : images) {
+    for (const Partie& partie : morceaux) {
         // A gilt fillet round the boards.
-        QPainter g(&partie.image);
+        QPainter g(partie.image);
         g.translate(-partie.origine);
         const int m = std::max(2, t.width() / 160);
         g.setPen(QPen(or_vieux, std::max(1, m / 3)));
         g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
         g.end();
-        pixmaps.push_back(QPixmap::fromImage(std::move(partie.image)));
+        pixmaps.push_back(QPixmap::fromImage(std::move(*partie.image)));
     }
     return pixmaps;
 }

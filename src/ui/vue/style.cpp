@@ -1,6 +1,20 @@
 #include "ui/vue/style.h"
 
+#include <QImageReader>
+
 namespace agenda::ui {
+
+namespace {
+
+// A picture of the toolkit's, read as the PNG it is: left to guess, the reader would first load
+// every image plug-in installed to ask each whether it knows the bytes.
+QPixmap png(const QString& chemin) {
+    QImageReader lecteur(chemin, "png");
+    lecteur.setAutoDetectImageFormat(false);
+    return QPixmap::fromImage(lecteur.read());
+}
+
+} // namespace
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,
                                  const QWidget* widget) const {
@@ -11,10 +25,9 @@ QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* optio
     const QString nom = icone == SP_ArrowLeft ? QStringLiteral("left") : QStringLiteral("right");
     QIcon i;
     for (const int taille : {16, 32, 128})
-        i.addFile(QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png")
-                      .arg(nom)
-                      .arg(taille),
-                  QSize(taille, taille));
+        i.addPixmap(png(QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png")
+                            .arg(nom)
+                            .arg(taille)));
     return i;
 }
 

@@ -38,7 +38,7 @@ void VueSurface::suit_la_souris(std::function<void(int x, int y)> mouvement) {
 void VueSurface::montre(const Surface* surface) {
     if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
     surface_ = surface ? std::optional(*surface) : std::nullopt;
-    rendu_ = QPixmap();
+    rendu_ = QImage();
     // What opaque children cover is not repainted with the drawing: a new drawing of the page
     // leaves the month control's cells alone.
     QRegion a_repeindre(rect());
@@ -52,13 +52,14 @@ void VueSurface::montre(const Surface* surface) {
 void VueSurface::paintEvent(QPaintEvent*) {
     const QSize voulu = size() * devicePixelRatioF();
     if (rendu_.size() != voulu) {
-        rendu_ = QPixmap(voulu);
+        // An image, not a pixmap: a background can then blend its grain straight into it.
+        rendu_ = QImage(voulu, QImage::Format_ARGB32_Premultiplied);
         rendu_.setDevicePixelRatio(devicePixelRatioF());
         rendu_.fill(Qt::transparent);
         QPainter g(&rendu_);
         dessine(g);
     }
-    QPainter(this).drawPixmap(0, 0, rendu_); // clipped to what needs repainting
+    QPainter(this).drawImage(0, 0, rendu_); // clipped to what needs repainting
 }
 
 void VueSurface::dessine(QPainter& g) const {

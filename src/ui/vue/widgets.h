@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -42,7 +43,7 @@ private:
     Fond fond_;
     std::function<void(int x, int y)> sur_mouvement;
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
-    QPixmap rendu_;                  // the background with the drawing on it
+    QImage rendu_;                   // the background with the drawing on it
 };
 
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,

@@ -1,6 +1,7 @@
 #include "ui/vue/icc.h"
 
 #include "ui/geometrie.h"
+#include "ui/vue/hasard.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +15,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
-#include <QRandomGenerator>
 #include <vector>
 
 namespace agenda::ui::icc {
@@ -60,27 +60,20 @@ QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
 }
 
 // The grain's points, for each alpha in the order they were drawn: the same at every drawing.
-// Each point takes three draws (alpha, y, x), each scaled to its range as
-// QRandomGenerator::bounded does; they are drawn by blocks, one call for thousands of points.
-// Only the points that `garde(x, y)` keeps are kept.
+// Each point takes three draws (alpha, y, x) from QRandomGenerator's sequence, each scaled to its
+// range as QRandomGenerator::bounded does. Only the points that `garde(x, y)` keeps are kept.
 template <class Garde>
 std::array<std::vector<QPoint>, 40> points_du_grain(QSize t, int densite, Garde&& garde) {
-    QRandomGenerator rng(20040303);
+    Mt19937 hasard(20040303);
     const auto borne = [](std::uint32_t tirage, int haut) {
         return int((std::uint64_t(tirage) * std::uint32_t(haut)) >> 32);
     };
     const int n = t.width() * t.height() / densite;
     std::array<std::vector<QPoint>, 40> par_alpha;
-    std::array<std::uint32_t, 3 * 4096> tirages;
-    for (int fait = 0; fait < n;) {
-        const int bloc = std::min(n - fait, int(tirages.size() / 3));
-        rng.fillRange(tirages.data(), 3 * bloc);
-        for (int i = 0; i < bloc; ++i) {
-            const std::uint32_t* p = &tirages[std::size_t(3 * i)];
-            const int x = borne(p[2], t.width()), y = borne(p[1], t.height());
-            if (garde(x, y)) par_alpha[std::size_t(10 + borne(p[0], 30))].emplace_back(x, y);
-        }
-        fait += bloc;
+    for (int i = 0; i < n; ++i) {
+        const std::uint32_t alpha = hasard(), y = hasard(), x = hasard();
+        const QPoint p(borne(x, t.width()), borne(y, t.height()));
+        if (garde(p.x(), p.y())) par_alpha[std::size_t(10 + borne(alpha, 30))].push_back(p);
     }
     return par_alpha;
 }
@@ -122,32 +115,47 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
 }
 
 void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor c) {
-    // The parts that each row crosses: a point looks at those only, and only the points that
-    // fall in a part are kept.
-    std::vector<std::vector<Partie*>> par_ligne(std::size_t(std::max(0, entiere.height())));
-    for (Partie& partie : parties) {
-        const QRect r = QRect(partie.origine, partie.image->size()) & QRect(QPoint(), entiere);
-        for (int y = r.top(); y <= r.bottom(); ++y)
-            par_ligne[std::size_t(y)].push_back(&partie);
-    }
-    const auto dans = [](const Partie& partie, int x) {
-        return x >= partie.origine.x() && x < partie.origine.x() + partie.image->width();
+    // Each part's pixels and columns in the whole, and the parts that each row crosses: a point
+    // looks at those only, and only the points that fall in a part are kept.
+    struct Zone {
+        std::uint8_t* pixels; // the part's first pixel
+        qsizetype ligne;
+        int x0, x1, y0; // its columns [x0, x1) and first row in the whole
     };
+    std::vector<Zone> zones;
+    zones.reserve(parties.size());
+    for (const Partie& p : parties)
+        zones.push_back({p.image->bits(), p.image->bytesPerLine(), p.origine.x(),
+                         p.origine.x() + p.image->width(), p.origine.y()});
+    // A bit for each pixel of the whole that a part covers: most of the cover's points fall
+    // outside its parts, and each is turned away at one look.
+    const auto mots = std::size_t(std::max(0, entiere.width()) + 63) / 64;
+    std::vector<std::uint64_t> couvert(mots * std::size_t(std::max(0, entiere.height())));
+    std::vector<std::vector<const Zone*>> par_ligne(std::size_t(std::max(0, entiere.height())));
+    for (std::size_t i = 0; i < parties.size(); ++i) {
+        const QRect r =
+            QRect(parties[i].origine, parties[i].image->size()) & QRect(QPoint(), entiere);
+        for (int y = r.top(); y <= r.bottom(); ++y) {
+            par_ligne[std::size_t(y)].push_back(&zones[i]);
+            for (int x = r.left(), n = 0; x <= r.right(); x += n) {
+                n = std::min(64 - x % 64, r.right() + 1 - x);
+                couvert[std::size_t(y) * mots + std::size_t(x) / 64] |=
+                    (n == 64 ? ~0ULL : (1ULL << n) - 1) << (x % 64);
+            }
+        }
+    }
     const auto par_alpha = points_du_grain(entiere, densite, [&](int x, int y) {
-        const auto& ligne = par_ligne[std::size_t(y)];
-        return std::any_of(ligne.begin(), ligne.end(),
-                           [&](const Partie* p) { return dans(*p, x); });
+        return (couvert[std::size_t(y) * mots + std::size_t(x) / 64] >> (x % 64)) & 1;
     });
     for (int alpha = 10; alpha < 40; ++alpha) {
         // The pen's colour as the raster engine takes it: premultiplied at 16 bits, then 8.
         c.setAlpha(alpha);
         const QRgb point = qPremultiply(c.rgba64()).toArgb32();
         for (const QPoint& p : par_alpha[std::size_t(alpha)])
-            for (Partie* partie : par_ligne[std::size_t(p.y())]) {
-                if (!dans(*partie, p.x())) continue;
-                auto* pixel =
-                    reinterpret_cast<QRgb*>(partie->image->scanLine(p.y() - partie->origine.y())) +
-                    (p.x() - partie->origine.x());
+            for (const Zone* z : par_ligne[std::size_t(p.y())]) {
+                if (p.x() < z->x0 || p.x() >= z->x1) continue;
+                auto* pixel = reinterpret_cast<QRgb*>(z->pixels + (p.y() - z->y0) * z->ligne) +
+                              (p.x() - z->x0);
                 *pixel = sur(*pixel, point);
             }
     }

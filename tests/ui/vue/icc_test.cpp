@@ -1,6 +1,7 @@
-// The grain is blended by hand for speed: it must give the painter's very pixels; and the cover
-// drawn in parts must give, in each, the pixels of the whole.
+// The grain is drawn by hand for speed: its numbers must be QRandomGenerator's and its blend the
+// painter's very pixels; and the cover drawn in parts must give, in each, the pixels of the whole.
 
+#include "ui/vue/hasard.h"
 #include "ui/vue/icc.h"
 
 #include <gtest/gtest.h>
@@ -8,8 +9,18 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPixmap>
+#include <QRandomGenerator>
 
 using namespace agenda::ui;
+
+TEST(Grain, LesNombresDeQRandomGenerator) {
+    for (const std::uint32_t graine : {1u, 20040303u, 0xffffffffu}) {
+        QRandomGenerator qt(graine);
+        Mt19937 nous(graine);
+        for (int i = 0; i < 3 * 624 + 5; ++i) // across several blocks
+            ASSERT_EQ(nous(), qt()) << graine << " " << i;
+    }
+}
 
 TEST(Grain, LesPixelsDuPeintre) {
     for (const QColor couleur : {QColor(Qt::black), QColor(0x80, 0x60, 0x30)}) {

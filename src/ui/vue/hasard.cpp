@@ -52,7 +52,8 @@ Mt19937::Mt19937(std::uint32_t graine) {
         etat_[0] = haut;
 }
 
-__attribute__((target_clones("avx2", "default"))) void Mt19937::recharge() {
+__attribute__((target_clones("avx2", "default"))) const std::array<std::uint32_t, Mt19937::n>&
+Mt19937::suivants() {
     std::uint32_t* e = etat_.data();
     // Eight words at a time: each reads the words after it before any is written, and the word
     // m ahead is either one not yet twisted (the first n - m) or one twisted long before.
@@ -68,7 +69,7 @@ __attribute__((target_clones("avx2", "default"))) void Mt19937::recharge() {
     e[n - 1] = tord(e[n - 1], e[0], e[m - 1]);
     for (i = 0; i < n; i += 8)
         tempere_huit(sortie_.data() + i, e + i);
-    suivant_ = 0;
+    return sortie_;
 }
 
 } // namespace agenda::ui

@@ -10,18 +10,14 @@ namespace agenda::ui {
 
 class Mt19937 {
 public:
+    static constexpr int n = 624;
     explicit Mt19937(std::uint32_t graine);
-    std::uint32_t operator()() {
-        if (suivant_ == n) recharge();
-        return sortie_[suivant_++];
-    }
+    // The sequence's next n numbers.
+    const std::array<std::uint32_t, n>& suivants();
 
 private:
-    static constexpr int n = 624;
-    void recharge();
     alignas(32) std::array<std::uint32_t, n> etat_;
     alignas(32) std::array<std::uint32_t, n> sortie_;
-    int suivant_ = n;
 };
 
 } // namespace agenda::ui

@@ -73,41 +73,51 @@ struct Grain {
     }
 };
 
-template <class Garde>
-Grain points_du_grain(QSize t, int densite, Garde&& garde) {
-    Mt19937 hasard(20040303);
+// The points in the order drawn, by blocks of the generator's, each given to `prend(point,
+// gardé)`: all of a block's points are looked at before any is taken, so that the looks run
+// together instead of each waiting on the one before.
+struct Tire {
+    int x, y, alpha;
+};
+
+template <class Garde, class Prend>
+void parcourt_grain(QSize t, int densite, Garde&& garde, Prend&& prend) {
     const auto borne = [](std::uint32_t tirage, int haut) {
         return int((std::uint64_t(tirage) * std::uint32_t(haut)) >> 32);
     };
     const auto n = std::size_t(std::max(0, t.width() * t.height() / densite));
-    // By blocks of the generator's: all of a block's points are looked at before any is kept, so
-    // that the looks run together instead of each waiting on the one before; and every point is
-    // written where the next kept one goes, without a branch for the processor to mispredict at
-    // each random place.
-    struct Tire {
-        int x, y, alpha;
-    };
     constexpr std::size_t bloc = Mt19937::n / 3;
-    const auto tires = std::make_unique_for_overwrite<Tire[]>(n); // only the kept are touched
-    std::array<std::size_t, 31> compte{};
-    std::size_t k = 0;
+    Mt19937 hasard(20040303);
+    std::array<Tire, bloc> b;
+    std::array<bool, bloc> oui;
     for (std::size_t debut = 0; debut < n; debut += bloc) {
         const std::size_t m = std::min(bloc, n - debut);
         const auto& tirage = hasard.suivants();
-        std::array<Tire, bloc> b;
-        std::array<bool, bloc> oui;
         for (std::size_t j = 0; j < m; ++j)
             b[j] = {borne(tirage[3 * j + 2], t.width()), borne(tirage[3 * j + 1], t.height()),
                     borne(tirage[3 * j], 30)};
         for (std::size_t j = 0; j < m; ++j)
             oui[j] = garde(b[j].x, b[j].y);
-        for (std::size_t j = 0; j < m; ++j) {
-            tires[k] = b[j];
-            compte[std::size_t(b[j].alpha) + 1] += oui[j];
-            k += oui[j];
-        }
+        for (std::size_t j = 0; j < m; ++j)
+            prend(b[j], oui[j]);
     }
-    // Grouped by alpha, each group in the order drawn.
+}
+
+// The points kept, grouped by alpha. Each kept point is written where the next one goes and a
+// point turned away moves nothing on: no branch for the processor to mispredict at each random
+// place, most of them turned away on the cover.
+template <class Garde>
+Grain points_du_grain(QSize t, int densite, Garde&& garde) {
+    const auto n = std::size_t(std::max(0, t.width() * t.height() / densite));
+    const auto tires = std::make_unique_for_overwrite<Tire[]>(n + 1); // the kept only touched
+    // Counts of another type than the end's, which their stores then cannot be taken to change.
+    std::array<std::uint32_t, 31> compte{};
+    std::size_t k = 0;
+    parcourt_grain(t, densite, garde, [&](const Tire& p, bool oui) {
+        tires[k] = p;
+        compte[std::size_t(p.alpha) + 1] += oui;
+        k += oui;
+    });
     Grain g;
     for (std::size_t a = 1; a < compte.size(); ++a)
         g.debut[a] = g.debut[a - 1] + compte[a];
@@ -115,6 +125,24 @@ Grain points_du_grain(QSize t, int densite, Garde&& garde) {
     auto place = g.debut;
     for (std::size_t i = 0; i < k; ++i)
         g.points[place[std::size_t(tires[i].alpha)]++] = QPoint(tires[i].x, tires[i].y);
+    return g;
+}
+
+// Every point, grouped by alpha: twice through the sequence, each alpha's count and then each
+// point in its place, rather than keeping all the points drawn meanwhile.
+Grain tout_le_grain(QSize t, int densite) {
+    const auto tous = [](int, int) { return true; };
+    std::array<std::size_t, 31> compte{};
+    parcourt_grain(t, densite, tous,
+                   [&](const Tire& p, bool) { ++compte[std::size_t(p.alpha) + 1]; });
+    Grain g;
+    for (std::size_t a = 1; a < compte.size(); ++a)
+        g.debut[a] = g.debut[a - 1] + compte[a];
+    g.points.resize(g.debut.back());
+    auto place = g.debut;
+    parcourt_grain(t, densite, tous, [&](const Tire& p, bool) {
+        g.points[place[std::size_t(p.alpha)]++] = QPoint(p.x, p.y);
+    });
     return g;
 }
 
@@ -145,7 +173,7 @@ void grain(QPainter& g, QSize t, int densite, QColor c) {
         grain_dans(entiere, t, densite, c);
         return;
     }
-    const Grain grain = points_du_grain(t, densite, [](int, int) { return true; });
+    const Grain grain = tout_le_grain(t, densite);
     for (int alpha = 10; alpha < 40; ++alpha) {
         const auto points = grain.d_alpha(alpha);
         c.setAlpha(alpha);
@@ -168,11 +196,16 @@ void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor
         zones.push_back({p.image->bits(), p.image->bytesPerLine(), p.origine.x(),
                          p.origine.x() + p.image->width(), p.origine.y()});
     // A bit for each pixel of the whole that a part covers: most of the cover's points fall
-    // outside its parts, and each is turned away at one look.
+    // outside its parts, and each is turned away at one look. A single part that is the whole,
+    // a page, needs neither this nor the rows' parts.
+    const bool une_seule =
+        parties.size() == 1 &&
+        QRect(parties[0].origine, parties[0].image->size()) == QRect(QPoint(), entiere);
+    const auto lignes = std::size_t(une_seule ? 0 : std::max(0, entiere.height()));
     const auto mots = std::size_t(std::max(0, entiere.width()) + 63) / 64;
-    std::vector<std::uint64_t> couvert(mots * std::size_t(std::max(0, entiere.height())));
-    std::vector<std::vector<const Zone*>> par_ligne(std::size_t(std::max(0, entiere.height())));
-    for (std::size_t i = 0; i < parties.size(); ++i) {
+    std::vector<std::uint64_t> couvert(mots * lignes);
+    std::vector<std::vector<const Zone*>> par_ligne(lignes);
+    for (std::size_t i = 0; i < parties.size() && !une_seule; ++i) {
         const QRect r =
             QRect(parties[i].origine, parties[i].image->size()) & QRect(QPoint(), entiere);
         for (int y = r.top(); y <= r.bottom(); ++y) {
@@ -184,15 +217,19 @@ void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor
             }
         }
     }
-    const Grain grain = points_du_grain(entiere, densite, [&](int x, int y) {
-        return (couvert[std::size_t(y) * mots + std::size_t(x) / 64] >> (x % 64)) & 1;
-    });
+    const Grain grain =
+        une_seule
+            ? tout_le_grain(entiere, densite)
+            : points_du_grain(entiere, densite, [&](int x, int y) {
+                  return (couvert[std::size_t(y) * mots + std::size_t(x) / 64] >> (x % 64)) & 1;
+              });
+    const std::vector<const Zone*> toute{une_seule ? &zones[0] : nullptr};
     for (int alpha = 10; alpha < 40; ++alpha) {
         // The pen's colour as the raster engine takes it: premultiplied at 16 bits, then 8.
         c.setAlpha(alpha);
         const QRgb point = qPremultiply(c.rgba64()).toArgb32();
         for (const QPoint& p : grain.d_alpha(alpha))
-            for (const Zone* z : par_ligne[std::size_t(p.y())]) {
+            for (const Zone* z : une_seule ? toute : par_ligne[std::size_t(p.y())]) {
                 if (p.x() < z->x0 || p.x() >= z->x1) continue;
                 auto* pixel = reinterpret_cast<QRgb*>(z->pixels + (p.y() - z->y0) * z->ligne) +
                               (p.x() - z->x0);

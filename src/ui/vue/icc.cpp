@@ -61,9 +61,9 @@ QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
     return garde(role, t, [&] { return trace(t, dessine); });
 }
 
-// The grain's points that `garde(x, y)` keeps, grouped by alpha in the order they were drawn:
-// the same at every drawing. Each point takes three draws (alpha, y, x) from QRandomGenerator's
-// sequence, each scaled to its range as QRandomGenerator::bounded does.
+// The grain's points, grouped by alpha in the order they were drawn: the same at every drawing.
+// Each point takes three draws (alpha, y, x) from QRandomGenerator's sequence, each scaled to its
+// range as QRandomGenerator::bounded does.
 struct Grain {
     std::vector<QPoint> points;
     std::array<std::size_t, 31> debut{}; // alpha a's points start at debut[a - 10]
@@ -73,13 +73,13 @@ struct Grain {
     }
 };
 
-// The points in the order drawn, by blocks of the generator's, each given to `prend(point,
-// gardé)`: all of a block's points are looked at before any is taken, so that the looks run
-// together instead of each waiting on the one before.
 struct Tire {
     int x, y, alpha;
 };
 
+// The points in the order drawn, by blocks of the generator's, each given to `prend(point,
+// gardé)` with whether `garde(x, y)` keeps it: all of a block's points are looked at before any
+// is taken, so that the looks run together instead of each waiting on the one before.
 template <class Garde, class Prend>
 void parcourt_grain(QSize t, int densite, Garde&& garde, Prend&& prend) {
     const auto borne = [](std::uint32_t tirage, int haut) {
@@ -145,10 +145,6 @@ Grain tout_le_grain(QSize t, int densite) {
     });
     return g;
 }
-
-} // namespace
-
-namespace {
 
 // A point of the grain over a pixel, both premultiplied, as the painter's source over blends a
 // pen's point: each channel of the pixel times 255 - alpha over 255, rounded as the raster

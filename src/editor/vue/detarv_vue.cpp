@@ -33,6 +33,9 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     const auto police = [](double pts, bool gras = false) {
         return ui::police(QStringLiteral("DejaVu Sans"), pts, gras);
     };
+    // The selectors' font, which they take from the window as they are made: given to each
+    // afterwards, it made each build at once the popup of its list.
+    setFont(police(10));
     const auto label = [&](const RectTwips& r, const QString& t, double pts, bool gras = false) {
         auto* w = new QLabel(t, this);
         ui::place(*w, r);
@@ -230,9 +233,11 @@ QComboBox* DetarvVue::combo(const RectTwips& r, const QStringList& liste, QStrin
                             std::function<void()> clic) {
     auto* c = new QComboBox(this);
     ui::place(*c, r);
-    // The font before the parts the combo makes for editing, which take it as they are made.
-    c->setFont(ui::police(QStringLiteral("DejaVu Sans"), 10));
-    c->setEditable(true);
+    // Editable through a line of its own rather than setEditable, which builds the popup of the
+    // list at once: it is built when first opened, as it would have been.
+    auto* saisie = new QLineEdit(c);
+    saisie->setPalette(c->palette());
+    c->setLineEdit(saisie);
     c->setInsertPolicy(QComboBox::NoInsert); // typed times do not join the lists
     c->addItems(liste);
     connect(c, &QComboBox::editTextChanged, this,

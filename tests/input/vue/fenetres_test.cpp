@@ -12,7 +12,9 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -117,4 +119,31 @@ TEST_F(Fenetres, FermerLeLivreLanceLeRetourCommeEchap) {
     vue.show();
     EXPECT_THROW(vue.close(), agenda::test::FinDemandee);
     EXPECT_EQ(lances, QStringList{QStringLiteral("caisse --menu")});
+}
+
+TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
+    ASSERT_EQ(charge(), -1);
+    Torva1Vue vue(*livre);
+    vue.show();
+    QStringList fin;
+    puis([&](QDialog& d) {
+        const auto selecteurs = d.findChildren<QComboBox*>();
+        ASSERT_EQ(selecteurs.size(), 4);
+        for (QComboBox* s : selecteurs)
+            ASSERT_NE(s->lineEdit(), nullptr);
+        // A start typed at 14, then its minutes chosen in the list: the end follows both, the
+        // standard 20 minutes later.
+        selecteurs[0]->lineEdit()->selectAll();
+        for (const char* c : {"1", "4"}) {
+            QKeyEvent appui(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                            QString::fromLatin1(c));
+            QApplication::sendEvent(selecteurs[0]->lineEdit(), &appui);
+        }
+        selecteurs[1]->setCurrentIndex(6);
+        emit selecteurs[1]->activated(6);
+        fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
+        clique(d, "Effacer le rendez-vous");
+    });
+    livre->pageg_MouseDown(2000, 3700 + 10);
+    EXPECT_EQ(fin, (QStringList{QStringLiteral("14"), QStringLiteral("50")}));
 }

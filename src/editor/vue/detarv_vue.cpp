@@ -219,13 +219,16 @@ bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
 
 // A grid of cells to click, without headers, editing or selection.
 QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes, double points) {
-    auto* g = new QTableWidget(lignes, colonnes, this);
+    // Made empty and then given its cells: its headers are not laid out twice.
+    auto* g = new QTableWidget(this);
     ui::place(*g, r);
     g->horizontalHeader()->hide();
     g->verticalHeader()->hide();
     g->setEditTriggers(QAbstractItemView::NoEditTriggers);
     g->setSelectionMode(QAbstractItemView::NoSelection);
     g->setFont(ui::police(QStringLiteral("DejaVu Sans"), points));
+    g->setColumnCount(colonnes);
+    g->setRowCount(lignes);
     return g;
 }
 

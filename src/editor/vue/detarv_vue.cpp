@@ -237,7 +237,7 @@ QComboBox* DetarvVue::combo(const RectTwips& r, const QStringList& liste, QStrin
     auto* c = new QComboBox(this);
     ui::place(*c, r);
     // Editable through a line of its own rather than setEditable, which builds the popup of the
-    // list at once: it is built when first opened, as it would have been.
+    // list at once: the popup is made, the same, when the list is first opened.
     auto* saisie = new QLineEdit(c);
     saisie->setPalette(c->palette());
     c->setLineEdit(saisie);

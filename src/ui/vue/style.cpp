@@ -35,12 +35,15 @@ public:
         g->drawPixmap(r, pixmap(r.size() * dpr, mode, etat));
     }
     QSize actualSize(const QSize& taille, QIcon::Mode, QIcon::State) override {
-        // The smallest picture at least as large, or the largest, made to fit.
+        // The smallest picture at least as large, or the largest, scaled down to fit.
         const int aire = taille.width() * taille.height();
         int cote = 128;
         for (const int c : {32, 16})
             if (c * c >= aire) cote = c;
-        return QSize(cote, cote).boundedTo(taille);
+        QSize reelle(cote, cote);
+        if (reelle.width() > taille.width() || reelle.height() > taille.height())
+            reelle.scale(taille, Qt::KeepAspectRatio);
+        return reelle;
     }
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State etat) override {
         if (mode != QIcon::Normal || etat != QIcon::Off) return {};

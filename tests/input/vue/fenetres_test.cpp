@@ -10,6 +10,7 @@
 #include "ui/dates.h"
 #include "ui/systeme.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -127,21 +128,22 @@ TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
     vue.show();
     QStringList fin;
     puis([&](QDialog& d) {
-        const auto selecteurs = d.findChildren<QComboBox*>();
-        ASSERT_EQ(selecteurs.size(), 4);
-        for (QComboBox* s : selecteurs)
-            ASSERT_NE(s->lineEdit(), nullptr);
         // A start typed at 14, then its minutes chosen in the list: the end follows both, the
-        // standard 20 minutes later.
-        selecteurs[0]->lineEdit()->selectAll();
-        for (const char* c : {"1", "4"}) {
-            QKeyEvent appui(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
-                            QString::fromLatin1(c));
-            QApplication::sendEvent(selecteurs[0]->lineEdit(), &appui);
+        // standard 20 minutes later. The window is left in any case.
+        const auto selecteurs = d.findChildren<QComboBox*>();
+        if (selecteurs.size() == 4 &&
+            std::all_of(selecteurs.begin(), selecteurs.end(),
+                        [](const QComboBox* s) { return s->lineEdit() != nullptr; })) {
+            selecteurs[0]->lineEdit()->selectAll();
+            for (const char* c : {"1", "4"}) {
+                QKeyEvent appui(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                                QString::fromLatin1(c));
+                QApplication::sendEvent(selecteurs[0]->lineEdit(), &appui);
+            }
+            selecteurs[1]->setCurrentIndex(6);
+            emit selecteurs[1]->activated(6);
+            fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
         }
-        selecteurs[1]->setCurrentIndex(6);
-        emit selecteurs[1]->activated(6);
-        fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
         clique(d, "Effacer le rendez-vous");
     });
     livre->pageg_MouseDown(2000, 3700 + 10);

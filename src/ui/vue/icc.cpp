@@ -65,6 +65,13 @@ QPixmap dessin(const QString& role, QSize t, Dessin&& dessine) {
 // Each point takes three draws (alpha, y, x) from QRandomGenerator's sequence, each scaled to its
 // range as QRandomGenerator::bounded does.
 struct Grain {
+    // Room for each alpha's points, from their counts: compte[a - 9] for alpha a.
+    template <class Compte>
+    explicit Grain(const std::array<Compte, 31>& compte) {
+        for (std::size_t a = 1; a < compte.size(); ++a)
+            debut[a] = debut[a - 1] + compte[a];
+        points.resize(debut.back());
+    }
     std::vector<QPoint> points;
     std::array<std::size_t, 31> debut{}; // alpha a's points start at debut[a - 10]
     std::span<const QPoint> d_alpha(int a) const {
@@ -118,10 +125,7 @@ Grain points_du_grain(QSize t, int densite, Garde&& garde) {
         compte[std::size_t(p.alpha) + 1] += oui;
         k += oui;
     });
-    Grain g;
-    for (std::size_t a = 1; a < compte.size(); ++a)
-        g.debut[a] = g.debut[a - 1] + compte[a];
-    g.points.resize(k);
+    Grain g(compte);
     auto place = g.debut;
     for (std::size_t i = 0; i < k; ++i)
         g.points[place[std::size_t(tires[i].alpha)]++] = QPoint(tires[i].x, tires[i].y);
@@ -135,10 +139,7 @@ Grain tout_le_grain(QSize t, int densite) {
     std::array<std::size_t, 31> compte{};
     parcourt_grain(t, densite, tous,
                    [&](const Tire& p, bool) { ++compte[std::size_t(p.alpha) + 1]; });
-    Grain g;
-    for (std::size_t a = 1; a < compte.size(); ++a)
-        g.debut[a] = g.debut[a - 1] + compte[a];
-    g.points.resize(g.debut.back());
+    Grain g(compte);
     auto place = g.debut;
     parcourt_grain(t, densite, tous, [&](const Tire& p, bool) {
         g.points[place[std::size_t(p.alpha)]++] = QPoint(p.x, p.y);

@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -240,6 +241,14 @@ QComboBox* DetarvVue::combo(const RectTwips& r, const QStringList& liste, QStrin
     // list at once: the popup is made, the same, when the list is first opened.
     auto* saisie = new QLineEdit(c);
     saisie->setPalette(c->palette());
+    // A time is taken as typed: the combo's own inline completer would turn a 5 typed in the
+    // minutes into 50. The four lines share one completer without a list, which keeps the
+    // combo from making its own.
+    if (!sans_completion_) {
+        sans_completion_ = new QCompleter(this);
+        sans_completion_->setCompletionMode(QCompleter::InlineCompletion);
+    }
+    saisie->setCompleter(sans_completion_);
     c->setLineEdit(saisie);
     c->setInsertPolicy(QComboBox::NoInsert); // typed times do not join the lists
     c->addItems(liste);

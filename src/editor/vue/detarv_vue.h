@@ -10,6 +10,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QCompleter;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -48,6 +49,7 @@ private:
     ui::VueSurface* picture2_;
     QPushButton *picture3_, *picture4_;
     QToolButton* image2_;
+    QCompleter* sans_completion_ = nullptr;
     std::vector<QComboBox*> combos_;
     std::vector<QString Detarv::*> champs_;
 };

@@ -129,23 +129,32 @@ TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
     QStringList fin;
     puis([&](QDialog& d) {
         // A start typed at 14, then its minutes chosen in the list: the end follows both, the
-        // standard 20 minutes later. The window is left in any case.
+        // standard 20 minutes later. A 5 typed in the end's minutes stays 5, not the list's 50.
+        // The window is left in any case.
         const auto selecteurs = d.findChildren<QComboBox*>();
+        const auto tape = [&d](QComboBox* s, std::initializer_list<char> touches) {
+            // Typed into the focused line, as the operator does: completion follows the focus.
+            QApplication::setActiveWindow(&d);
+            s->setFocus();
+            s->lineEdit()->selectAll();
+            for (const char c : touches) {
+                QKeyEvent appui(QEvent::KeyPress, Qt::Key_0 + (c - '0'), Qt::NoModifier,
+                                QString(QChar::fromLatin1(c)));
+                QApplication::sendEvent(s->lineEdit(), &appui);
+            }
+        };
         if (selecteurs.size() == 4 &&
             std::all_of(selecteurs.begin(), selecteurs.end(),
                         [](const QComboBox* s) { return s->lineEdit() != nullptr; })) {
-            selecteurs[0]->lineEdit()->selectAll();
-            for (const char* c : {"1", "4"}) {
-                QKeyEvent appui(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
-                                QString::fromLatin1(c));
-                QApplication::sendEvent(selecteurs[0]->lineEdit(), &appui);
-            }
+            tape(selecteurs[0], {'1', '4'});
             selecteurs[1]->setCurrentIndex(6);
             emit selecteurs[1]->activated(6);
             fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
+            tape(selecteurs[3], {'5'});
+            fin << selecteurs[3]->currentText();
         }
         clique(d, "Effacer le rendez-vous");
     });
     livre->pageg_MouseDown(2000, 3700 + 10);
-    EXPECT_EQ(fin, (QStringList{QStringLiteral("14"), QStringLiteral("50")}));
+    EXPECT_EQ(fin, (QStringList{QStringLiteral("14"), QStringLiteral("50"), QStringLiteral("5")}));
 }

@@ -120,6 +120,10 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     g2_ = grille(Detarv::g2_rect, 4, 4, 8);
     // "1h30" must show whole in a cell a quarter of the grid wide.
     g2_->setTextElideMode(Qt::ElideNone);
+    // Its cells are all in view: at some scales their rounding overflows the frame by a pixel,
+    // which must not bring up scroll bars over the last row and column.
+    g2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    g2_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     g2_->verticalHeader()->setDefaultSectionSize(ui::px(410));
     g2_->horizontalHeader()->setDefaultSectionSize(ui::px(490));
     for (int r = 0; r < 4; ++r) {
@@ -270,9 +274,16 @@ void DetarvVue::montre() {
         text1_->setPlainText(crlf_vers_ecran(l_.Text1));
         text1_->moveCursor(QTextCursor::End);
     }
-    const QString style_texte = QStringLiteral("QPlainTextEdit { background: %1; color: black; }")
-                                    .arg(ui::couleur(l_.Text1_couleur).name());
-    if (text1_->styleSheet() != style_texte) text1_->setStyleSheet(style_texte);
+    // The text's colour by its palette rather than a style sheet, whose polish slowed the
+    // opening; the frame takes its line from the Window colour, as it did from the sheet.
+    const QColor fond_texte = ui::couleur(l_.Text1_couleur);
+    if (text1_->palette().color(QPalette::Base) != fond_texte) {
+        QPalette p = text1_->palette();
+        p.setColor(QPalette::Base, fond_texte);
+        p.setColor(QPalette::Window, fond_texte);
+        p.setColor(QPalette::Text, Qt::black);
+        text1_->setPalette(p);
+    }
     check1_->setChecked(l_.Check1 != 0);
     label15_->setText(crlf_vers_ecran(l_.Label15));
     label15_->setVisible(!l_.Label15.isEmpty());

@@ -1,5 +1,6 @@
 #include "ui/vue/style.h"
 
+#include <array>
 #include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
@@ -16,17 +17,14 @@ QPixmap png(const QString& chemin) {
     return QPixmap::fromImage(lecteur.read());
 }
 
-// An arrow at 16, 32 and 128 pixels, as the toolkit's icon of those three files, but for the
-// 128 pixels one, read only when a size above 32 is asked: its decoding was a millisecond of
-// every start, and it serves on screens of twice the usual density or more only. The icon of
-// pixmaps picks the smallest at least as large as the size asked, so that up to 32 the two
-// small ones give what the three would.
+// An arrow at 16, 32 and 128 pixels, as the toolkit's icon of those three files, but each file
+// read only when a size asked first needs it: their decoding was a millisecond of every start,
+// and the larger two serve on screens of higher density only. The icon of pixmaps picks the
+// smallest at least as large as the size asked, so that the files read so far give what the
+// three would.
 class Fleche : public QIconEngine {
 public:
-    explicit Fleche(QString nom) : nom_(std::move(nom)) {
-        for (const int taille : {16, 32})
-            petites_.addPixmap(png(chemin(taille)));
-    }
+    explicit Fleche(QString nom) : nom_(std::move(nom)) {}
     QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
         return icone(taille).pixmap(taille, 1.0, mode, etat);
     }
@@ -36,11 +34,13 @@ public:
     }
     QSize actualSize(const QSize& taille, QIcon::Mode, QIcon::State) override {
         // The smallest picture at least as large, or the largest, scaled down to fit.
-        const int aire = taille.width() * taille.height();
-        int cote = 128;
-        for (const int c : {32, 16})
-            if (c * c >= aire) cote = c;
-        QSize reelle(cote, cote);
+        QSize reelle(cotes.back(), cotes.back());
+        for (const int c : cotes) {
+            if (c * c >= taille.width() * taille.height()) {
+                reelle = QSize(c, c);
+                break;
+            }
+        }
         if (reelle.width() > taille.width() || reelle.height() > taille.height())
             reelle.scale(taille, Qt::KeepAspectRatio);
         return reelle;
@@ -53,21 +53,24 @@ public:
     QIconEngine* clone() const override { return new Fleche(*this); }
 
 private:
-    QString chemin(int taille) const {
-        return QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png")
-            .arg(nom_)
-            .arg(taille);
-    }
+    static constexpr std::array<int, 3> cotes = {16, 32, 128};
+
     QIcon& icone(QSize taille) {
-        if (taille.width() * taille.height() <= 32 * 32) return petites_;
-        if (toutes_.isNull()) {
-            toutes_ = petites_;
-            toutes_.addPixmap(png(chemin(128)));
-        }
-        return toutes_;
+        // The files up to the first at least as large as the size asked, or all three.
+        std::size_t besoin = 1;
+        while (besoin < cotes.size() &&
+               cotes[besoin - 1] * cotes[besoin - 1] < taille.width() * taille.height())
+            ++besoin;
+        for (; lues_ < besoin; ++lues_)
+            icone_.addPixmap(
+                png(QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png")
+                        .arg(nom_)
+                        .arg(cotes[lues_])));
+        return icone_;
     }
     QString nom_;
-    QIcon petites_, toutes_;
+    QIcon icone_;
+    std::size_t lues_ = 0;
 };
 
 } // namespace

@@ -486,13 +486,10 @@ void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiqu
             QLabel* e = reserve.etiquettes[k++];
             ui::place(*e, {et.left, et.top, et.width, et.height});
             e->setText(et.legende);
-            // A new palette or frame is passed on and laid out even when it is the same.
-            if (const QColor fond = ui::couleur(et.couleur);
-                e->palette().color(QPalette::Window) != fond) {
-                QPalette p = e->palette();
-                p.setColor(QPalette::Window, fond);
-                e->setPalette(p);
-            }
+            QPalette p = e->palette();
+            p.setColor(QPalette::Window, ui::couleur(et.couleur));
+            e->setPalette(p); // the same palette again is nothing to the toolkit
+            // A frame style, unlike a palette, is laid out again even when it is the same.
             if (const int cadre = et.bordure ? QFrame::Box | QFrame::Plain : QFrame::NoFrame;
                 e->frameStyle() != cadre)
                 e->setFrameStyle(cadre);

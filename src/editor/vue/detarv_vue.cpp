@@ -276,14 +276,11 @@ void DetarvVue::montre() {
     }
     // The text's colour by its palette rather than a style sheet, whose polish slowed the
     // opening; the frame takes its line from the Window colour, as it did from the sheet.
-    const QColor fond_texte = ui::couleur(l_.Text1_couleur);
-    if (text1_->palette().color(QPalette::Base) != fond_texte) {
-        QPalette p = text1_->palette();
-        p.setColor(QPalette::Base, fond_texte);
-        p.setColor(QPalette::Window, fond_texte);
-        p.setColor(QPalette::Text, Qt::black);
-        text1_->setPalette(p);
-    }
+    QPalette p = text1_->palette();
+    for (const QPalette::ColorRole r : {QPalette::Base, QPalette::Window})
+        p.setColor(r, ui::couleur(l_.Text1_couleur));
+    p.setColor(QPalette::Text, Qt::black);
+    text1_->setPalette(p);
     check1_->setChecked(l_.Check1 != 0);
     label15_->setText(crlf_vers_ecran(l_.Label15));
     label15_->setVisible(!l_.Label15.isEmpty());

@@ -33,14 +33,9 @@ public:
         g->drawPixmap(r, pixmap(r.size() * dpr, mode, etat));
     }
     QSize actualSize(const QSize& taille, QIcon::Mode, QIcon::State) override {
-        // The smallest picture at least as large, or the largest, scaled down to fit.
-        QSize reelle(cotes.back(), cotes.back());
-        for (const int c : cotes) {
-            if (c * c >= taille.width() * taille.height()) {
-                reelle = QSize(c, c);
-                break;
-            }
-        }
+        // The picture chosen, scaled down to fit.
+        const int cote = cotes[choisie(taille)];
+        QSize reelle(cote, cote);
         if (reelle.width() > taille.width() || reelle.height() > taille.height())
             reelle.scale(taille, Qt::KeepAspectRatio);
         return reelle;
@@ -55,13 +50,16 @@ public:
 private:
     static constexpr std::array<int, 3> cotes = {16, 32, 128};
 
+    // The smallest picture at least as large as the size asked, or the largest.
+    static std::size_t choisie(QSize taille) {
+        std::size_t i = 0;
+        while (i + 1 < cotes.size() && cotes[i] * cotes[i] < taille.width() * taille.height())
+            ++i;
+        return i;
+    }
+    // The files up to the one chosen, each read the first time it is needed.
     QIcon& icone(QSize taille) {
-        // The files up to the first at least as large as the size asked, or all three.
-        std::size_t besoin = 1;
-        while (besoin < cotes.size() &&
-               cotes[besoin - 1] * cotes[besoin - 1] < taille.width() * taille.height())
-            ++besoin;
-        for (; lues_ < besoin; ++lues_)
+        for (const std::size_t besoin = choisie(taille) + 1; lues_ < besoin; ++lues_)
             icone_.addPixmap(
                 png(QStringLiteral(":/qt-project.org/styles/commonstyle/images/%1-%2.png")
                         .arg(nom_)

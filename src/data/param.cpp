@@ -23,13 +23,14 @@ void ferme_param() {
 // The number (from 1) of the first record holding the key, or 0. `trouve` receives it.
 int cherche(const QString& cle, RecParam& trouve) {
     int numero = 0;
-    parcourt<RecParam>(store(), lit_record<RecParam>(store(), 1).lit(RecParam::nb_param),
-                       [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-                           if (RecParam::cle_param.dans(rec) != cle) return true;
-                           trouve = record_de<RecParam>(rec); // copied only when it is the one
-                           numero = i;
-                           return false;
-                       });
+    parcourt_depuis_entete<RecParam>(
+        store(), [](const RecParam& entete) { return entete.lit(RecParam::nb_param); },
+        [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+            if (RecParam::cle_param.dans(rec) != cle) return true;
+            trouve = record_de<RecParam>(rec); // copied only when it is the one
+            numero = i;
+            return false;
+        });
     return numero;
 }
 

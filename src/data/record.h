@@ -13,6 +13,7 @@
 #include <memory>
 #include <QString>
 #include <span>
+#include <utility>
 
 namespace agenda {
 
@@ -81,12 +82,14 @@ Rec record_de(std::span<const std::uint8_t> octets) {
 // Records a scan reads per system call.
 inline constexpr std::int64_t records_par_bloc = 512;
 
-// Calls `visite(number, record bytes)` for numbers 1 to `compte` (records 2 to compte + 1), read
-// `records_par_bloc` records per system call, until the file ends or `visite` returns false. The
-// records past the end are not visited: they would read as blanks and zeros, so a count far past
-// the end costs nothing. A last record cut short is visited with its missing bytes blank.
-template <class Rec, class Visite>
-void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
+namespace detail {
+
+// Visits numbers 1 to `compte` (records 2 to compte + 1), `records_par_bloc` records per system
+// call. With `entete`, the header (record 1) comes with the first block and `entete(header)`
+// gives the count: the scan saves the system call of a read of its own.
+template <class Rec, class Entete, class Visite>
+void parcourt_blocs(const FichierRecords& f, std::int64_t compte, bool avec_entete, Entete&& entete,
+                    Visite&& visite) {
     constexpr std::int64_t par_bloc = records_par_bloc;
     // One block per thread and format, kept: a fresh one would be mapped and faulted in at
     // every scan. It holds bytes only for one call; nothing is served from it later. Aligned to
@@ -96,24 +99,53 @@ void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
     };
     thread_local const auto tampon = std::make_unique<Bloc>();
     auto& bloc = tampon->octets;
-    for (std::int64_t premier = 1; premier <= compte; premier += par_bloc) {
+    const auto record = [&](std::int64_t j) {
+        return std::span<const std::uint8_t>(bloc.data() + j * Rec::longueur, Rec::longueur);
+    };
+    // Number 0 is the header; until it is read the count is the first block's end.
+    if (avec_entete) compte = par_bloc - 1;
+    for (std::int64_t premier = avec_entete ? 0 : 1; premier <= compte; premier += par_bloc) {
         const std::int64_t n = std::min<std::int64_t>(par_bloc, compte - premier + 1);
         const std::size_t lu =
             f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * Rec::longueur));
-        const std::int64_t complets = std::int64_t(lu) / Rec::longueur;
-        for (std::int64_t j = 0; j < complets; ++j)
-            if (!visite(
-                    std::int32_t(premier + j),
-                    std::span<const std::uint8_t>(bloc.data() + j * Rec::longueur, Rec::longueur)))
-                return;
-        if (complets < n) {
-            if (lu % Rec::longueur != 0) {
-                const Rec dernier = lit_record<Rec>(f, premier + complets + 1);
-                visite(std::int32_t(premier + complets), std::span(dernier.octets));
+        const std::int64_t lus = std::int64_t(lu) / Rec::longueur;
+        std::int64_t j = 0;
+        if (premier == 0) {
+            // A header cut short reads, as any record, with its missing bytes blank.
+            compte =
+                entete(record_de<Rec>(record(0).first(std::min<std::size_t>(lu, Rec::longueur))));
+            j = 1;
+        }
+        for (const std::int64_t fin = std::min(lus, compte - premier + 1); j < fin; ++j)
+            if (!visite(std::int32_t(premier + j), record(j))) return;
+        if (lus < n) {
+            const std::int64_t dernier = premier + lus;
+            if (lu % Rec::longueur != 0 && dernier >= 1 && dernier <= compte) {
+                const Rec coupe = record_de<Rec>(record(lus).first(lu % Rec::longueur));
+                visite(std::int32_t(dernier), std::span<const std::uint8_t>(coupe.octets));
             }
             return;
         }
     }
+}
+
+} // namespace detail
+
+// Calls `visite(number, record bytes)` for numbers 1 to `compte` (records 2 to compte + 1), read
+// `records_par_bloc` records per system call, until the file ends or `visite` returns false. The
+// records past the end are not visited: they would read as blanks and zeros, so a count far past
+// the end costs nothing. A last record cut short is visited with its missing bytes blank.
+template <class Rec, class Visite>
+void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
+    detail::parcourt_blocs<Rec>(
+        f, compte, false, [](const Rec&) { return 0; }, std::forward<Visite>(visite));
+}
+
+// The same, the count given by `compte_de(header)`, the header read with the first block.
+template <class Rec, class Compte, class Visite>
+void parcourt_depuis_entete(const FichierRecords& f, Compte&& compte_de, Visite&& visite) {
+    detail::parcourt_blocs<Rec>(f, 0, true, std::forward<Compte>(compte_de),
+                                std::forward<Visite>(visite));
 }
 
 template <class Rec>

@@ -93,8 +93,7 @@ std::int32_t alloue_numero(FichierRecords& f) {
     return ajoute_numerote(f, vide);
 }
 
-std::int32_t repare_entete(FichierRecords& f) {
-    RecRv entete = lit_record<RecRv>(f, 1);
+std::int32_t repare_entete(FichierRecords& f, RecRv entete) {
     const double present = double(f.taille()) / RecRv::longueur - 1;
     if (present > entete.lit(RecRv::dernier_num)) {
         entete.pose(RecRv::dernier_num, en_i32(present));
@@ -129,12 +128,14 @@ void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
 
 QStringList scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
+    const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
-    parcourt_jour(f, repare_entete(f), jour,
-                  [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-                      liste.append(entree_du_jour(i, rec));
-                      return true;
-                  });
+    parcourt_depuis_entete<RecRv>(
+        f, [&](const RecRv& entete) { return repare_entete(f, entete); },
+        [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+            if (motif.ouvre(rec)) liste.append(entree_du_jour(i, rec));
+            return true;
+        });
     return liste;
 }
 
@@ -152,16 +153,18 @@ std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
     const std::uint32_t premier_mois = mois(jours.front().octets),
                         dernier_mois = mois(jours.back().octets);
     std::array<QStringList, 7> listes;
-    parcourt<RecRv>(f, repare_entete(f), [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        const std::uint32_t m = mois(rec);
-        if (m != premier_mois && m != dernier_mois) return true;
-        for (std::size_t k = 0; k < jours.size(); ++k)
-            if (jours[k].ouvre(rec)) {
-                listes[k].append(entree_du_jour(i, rec));
-                break;
-            }
-        return true;
-    });
+    parcourt_depuis_entete<RecRv>(
+        f, [&](const RecRv& entete) { return repare_entete(f, entete); },
+        [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+            const std::uint32_t m = mois(rec);
+            if (m != premier_mois && m != dernier_mois) return true;
+            for (std::size_t k = 0; k < jours.size(); ++k)
+                if (jours[k].ouvre(rec)) {
+                    listes[k].append(entree_du_jour(i, rec));
+                    break;
+                }
+            return true;
+        });
     return listes;
 }
 

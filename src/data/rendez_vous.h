@@ -21,8 +21,9 @@ std::int32_t ajoute_numerote(FichierRecords& f, const RecRv& rec);
 // The same with an empty record: an appointment's place, before its fields are written.
 std::int32_t alloue_numero(FichierRecords& f);
 
-// Brings a header that lags behind the file's length back into line; returns the count.
-std::int32_t repare_entete(FichierRecords& f);
+// Brings a header (record 1, as a scan has just read it) that lags behind the file's length back
+// into line; returns the count.
+std::int32_t repare_entete(FichierRecords& f, RecRv entete);
 
 // The day pattern "yymmdd" of a date.
 QString motif_jour(Date d);

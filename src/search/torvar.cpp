@@ -222,18 +222,20 @@ void Torvar::recherche_rv() {
         ouvre_rv_de(std::int16_t(c));
         FichierRecords& f = canal_fichier(canal::rv);
         // Taken wide and without the repair: a file past 32,767 records is searched whole.
-        const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
-        parcourt<RecRv>(f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
-            // Voided, or before the limit (a blank key sorts below "0"): bytes compare as the
-            // texts do against a limit of digits.
-            const std::uint64_t debut_cle = six_premiers(rec.data());
-            if (debut_cle == annule || debut_cle < depuis) return true;
-            if (client != 0 && octets::i32(rec, RecRv::num_client.offset) != client) return true;
-            const auto texte = rec.subspan(std::size_t(RecRv::texte_rv.offset),
-                                           std::size_t(RecRv::texte_rv.largeur));
-            if (mot && mot->dans(texte)) ajoute(c, n, rec);
-            return true;
-        });
+        const auto compte = [](const RecRv& entete) { return entete.lit(RecRv::dernier_num); };
+        parcourt_depuis_entete<RecRv>(
+            f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
+                // Voided, or before the limit (a blank key sorts below "0"): bytes compare as the
+                // texts do against a limit of digits.
+                const std::uint64_t debut_cle = six_premiers(rec.data());
+                if (debut_cle == annule || debut_cle < depuis) return true;
+                if (client != 0 && octets::i32(rec, RecRv::num_client.offset) != client)
+                    return true;
+                const auto texte = rec.subspan(std::size_t(RecRv::texte_rv.offset),
+                                               std::size_t(RecRv::texte_rv.largeur));
+                if (mot && mot->dans(texte)) ajoute(c, n, rec);
+                return true;
+            });
     }
     ui::trie_comme_une_liste(List1, [](const QString& l) -> const QString& { return l; });
     affiche_tableau();

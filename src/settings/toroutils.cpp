@@ -164,14 +164,15 @@ void Toroutils::Image2_Click() {
 void Toroutils::liste_rv() {
     List1_visible = true;
     FichierRecords& f = canal_fichier(canal::rv);
-    const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
+    const auto compte = [](const RecRv& entete) { return entete.lit(RecRv::dernier_num); };
     List1.clear();
-    parcourt<RecRv>(f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
-        const QString cle = RecRv::cle_rv.dans(rec);
-        if (!cle.startsWith(QLatin1String("------")))
-            List1.push_back({cle + RecRv::texte_rv.dans(rec), n});
-        return true;
-    });
+    parcourt_depuis_entete<RecRv>(f, compte,
+                                  [&](std::int32_t n, std::span<const std::uint8_t> rec) {
+                                      const QString cle = RecRv::cle_rv.dans(rec);
+                                      if (!cle.startsWith(QLatin1String("------")))
+                                          List1.push_back({cle + RecRv::texte_rv.dans(rec), n});
+                                      return true;
+                                  });
     // By text, so by date and hour.
     ui::trie_comme_une_liste(List1, [](const Entree& e) -> const QString& { return e.texte; });
 }

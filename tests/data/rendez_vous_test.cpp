@@ -7,6 +7,9 @@
 #include "support/support.h"
 #include "ui/dates.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace agenda;
 using agenda::test::rv;
 using agenda::test::rv_entete;
@@ -62,6 +65,27 @@ TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
     for (int i = 0; i < 250; ++i)
         octets += rv("040303:10H00:11H00");
     EXPECT_EQ(jour(octets.left(octets.size() - 400)).size(), 250);
+}
+
+TEST_F(Rendezvous, LeBalayageTraverseLesBlocsJusquAuBoutDuFichier) {
+    // The day's appointments around the ends of the blocks a scan reads, the first of which
+    // also holds the header.
+    const std::vector<int> du_jour = {1, 510, 511, 512, 513, 1023, 1024, 1099};
+    QByteArray corps;
+    for (int i = 1; i <= 1099; ++i)
+        corps += rv(std::count(du_jour.begin(), du_jour.end(), i) ? "040303:10H00:11H00"
+                                                                  : "040304:10H00:11H00");
+    const auto numeros = [](const QStringList& liste) {
+        std::vector<int> n;
+        for (const QString& e : liste)
+            n.push_back(entree_jour::numero(e));
+        return n;
+    };
+    // Whatever the header says, lagging, right, or too high, the scan goes to the file's end.
+    for (const int dernier : {1099, 3, 0, 5000})
+        EXPECT_EQ(numeros(jour(rv_entete(dernier) + corps)), du_jour) << dernier;
+    EXPECT_EQ(numeros(jour(rv_entete(1099) + corps.left(corps.size() - 100))), du_jour);
+    EXPECT_EQ(numeros(jour(rv_entete(1099).left(300))), std::vector<int>{});
 }
 
 TEST_F(Rendezvous, RechercheDeNoteParCle) {

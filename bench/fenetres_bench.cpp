@@ -178,8 +178,9 @@ BENCHMARK(BM_dialogue_nu)->UseManualTime()->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     if (qgetenv("DISPLAY").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // Fifteen pairs: a window's step swings by a fifth from one repetition to the next here.
     return bench::dans_un_dossier(
-        argc, argv, 5,
+        argc, argv, 15,
         [] {
             bench::prepare_dossier_livre(1000);
             for (const int records : tailles)

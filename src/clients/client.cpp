@@ -69,12 +69,11 @@ void ecrit_client(std::int32_t n) {
 
 void parcourt_clients(
     const std::function<void(std::int32_t, std::span<const std::uint8_t>)>& visite) {
-    parcourt_depuis_entete<RecCli>(
-        fichier(), [](const RecCli& entete) { return entete.lit(RecCli::dernier_client); },
-        [&](std::int32_t n, std::span<const std::uint8_t> client) {
-            visite(n, client);
-            return true;
-        });
+    parcourt_depuis_entete<RecCli>(fichier(), RecCli::dernier_client,
+                                   [&](std::int32_t n, std::span<const std::uint8_t> client) {
+                                       visite(n, client);
+                                       return true;
+                                   });
 }
 
 } // namespace agenda

@@ -24,8 +24,7 @@ void ferme_param() {
 int cherche(const QString& cle, RecParam& trouve) {
     int numero = 0;
     parcourt_depuis_entete<RecParam>(
-        store(), [](const RecParam& entete) { return entete.lit(RecParam::nb_param); },
-        [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+        store(), RecParam::nb_param, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
             if (RecParam::cle_param.dans(rec) != cle) return true;
             trouve = record_de<RecParam>(rec); // copied only when it is the one
             numero = i;

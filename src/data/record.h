@@ -13,6 +13,7 @@
 #include <memory>
 #include <QString>
 #include <span>
+#include <type_traits>
 #include <utility>
 
 namespace agenda {
@@ -84,11 +85,11 @@ inline constexpr std::int64_t records_par_bloc = 512;
 
 namespace detail {
 
-// Visits numbers 1 to `compte` (records 2 to compte + 1), `records_par_bloc` records per system
-// call. With `entete`, the header (record 1) comes with the first block and `entete(header)`
-// gives the count: the scan saves the system call of a read of its own.
-template <class Rec, class Entete, class Visite>
-void parcourt_blocs(const FichierRecords& f, std::int64_t compte, bool avec_entete, Entete&& entete,
+// Visits numbers 1 to the count (records 2 to count + 1), `records_par_bloc` records per system
+// call. The header (record 1) comes with the first block, which holds at most `au_plus` + 1
+// records, and `compte_de(header)` gives the count: no read of its own for the header.
+template <class Rec, class Compte, class Visite>
+void parcourt_blocs(const FichierRecords& f, std::int64_t au_plus, Compte&& compte_de,
                     Visite&& visite) {
     constexpr std::int64_t par_bloc = records_par_bloc;
     // One block per thread and format, kept: a fresh one would be mapped and faulted in at
@@ -102,9 +103,9 @@ void parcourt_blocs(const FichierRecords& f, std::int64_t compte, bool avec_ente
     const auto record = [&](std::int64_t j) {
         return std::span<const std::uint8_t>(bloc.data() + j * Rec::longueur, Rec::longueur);
     };
-    // Number 0 is the header; until it is read the count is the first block's end.
-    if (avec_entete) compte = par_bloc - 1;
-    for (std::int64_t premier = avec_entete ? 0 : 1; premier <= compte; premier += par_bloc) {
+    // Number 0 is the header, first of the first block; the count is known once it is read.
+    std::int64_t compte = au_plus;
+    for (std::int64_t premier = 0; premier <= compte; premier += par_bloc) {
         const std::int64_t n = std::min<std::int64_t>(par_bloc, compte - premier + 1);
         const std::size_t lu =
             f.lit_bloc(premier + 1, std::span(bloc.data(), std::size_t(n) * Rec::longueur));
@@ -112,8 +113,8 @@ void parcourt_blocs(const FichierRecords& f, std::int64_t compte, bool avec_ente
         std::int64_t j = 0;
         if (premier == 0) {
             // A header cut short reads, as any record, with its missing bytes blank.
-            compte =
-                entete(record_de<Rec>(record(0).first(std::min<std::size_t>(lu, Rec::longueur))));
+            compte = compte_de(
+                record_de<Rec>(record(0).first(std::min<std::size_t>(lu, Rec::longueur))));
             j = 1;
         }
         for (const std::int64_t fin = std::min(lus, compte - premier + 1); j < fin; ++j)
@@ -137,15 +138,22 @@ void parcourt_blocs(const FichierRecords& f, std::int64_t compte, bool avec_ente
 // the end costs nothing. A last record cut short is visited with its missing bytes blank.
 template <class Rec, class Visite>
 void parcourt(const FichierRecords& f, std::int32_t compte, Visite&& visite) {
+    if (compte <= 0) return;
     detail::parcourt_blocs<Rec>(
-        f, compte, false, [](const Rec&) { return 0; }, std::forward<Visite>(visite));
+        f, compte, [compte](const Rec&) { return compte; }, std::forward<Visite>(visite));
 }
 
-// The same, the count given by `compte_de(header)`, the header read with the first block.
+// The same, the count read in the header with the first block: from a field of it (Entier32,
+// Entier16) or given by `compte(header)`.
 template <class Rec, class Compte, class Visite>
-void parcourt_depuis_entete(const FichierRecords& f, Compte&& compte_de, Visite&& visite) {
-    detail::parcourt_blocs<Rec>(f, 0, true, std::forward<Compte>(compte_de),
-                                std::forward<Visite>(visite));
+void parcourt_depuis_entete(const FichierRecords& f, const Compte& compte, Visite&& visite) {
+    constexpr std::int64_t premier_bloc = records_par_bloc - 1;
+    if constexpr (std::is_invocable_v<const Compte&, const Rec&>)
+        detail::parcourt_blocs<Rec>(f, premier_bloc, compte, std::forward<Visite>(visite));
+    else
+        detail::parcourt_blocs<Rec>(
+            f, premier_bloc, [&](const Rec& entete) { return entete.lit(compte); },
+            std::forward<Visite>(visite));
 }
 
 template <class Rec>

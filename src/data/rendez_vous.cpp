@@ -118,22 +118,23 @@ std::int32_t code_jour(Date jour) {
     return d.day() + 31 * d.month();
 }
 
-void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
+void parcourt_jour(FichierRecords& f, Date jour,
+                   const std::function<std::int32_t(const RecRv&)>& compte,
                    const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv) {
     const DebutCle<6> motif(motif_jour(jour));
-    parcourt<RecRv>(f, compte, [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-        return !motif.ouvre(rec) || rv(i, rec);
-    });
+    parcourt_depuis_entete<RecRv>(f, compte,
+                                  [&](std::int32_t i, std::span<const std::uint8_t> rec) {
+                                      return !motif.ouvre(rec) || rv(i, rec);
+                                  });
 }
 
 QStringList scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
-    const DebutCle<6> motif(motif_jour(jour));
     QStringList liste;
-    parcourt_depuis_entete<RecRv>(
-        f, [&](const RecRv& entete) { return repare_entete(f, entete); },
+    parcourt_jour(
+        f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-            if (motif.ouvre(rec)) liste.append(entree_du_jour(i, rec));
+            liste.append(entree_du_jour(i, rec));
             return true;
         });
     return liste;

@@ -42,9 +42,10 @@ void charge_journee();
 QStringList scan_journee(FichierRecords& f, Date jour);
 // The day lists of the seven days from `lundi`, in one pass over the file.
 std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi);
-// The day's records among the first `compte` of a file, in record order: their numbers and
-// bytes, until `rv` answers false.
-void parcourt_jour(FichierRecords& f, std::int32_t compte, Date jour,
+// The day's records among the first of a file, as many as `compte(header)` says, in record
+// order: their numbers and bytes, until `rv` answers false.
+void parcourt_jour(FichierRecords& f, Date jour,
+                   const std::function<std::int32_t(const RecRv&)>& compte,
                    const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv);
 // An entry of the day list for appointment `numero` and its record's bytes.
 QString entree_du_jour(std::int32_t numero, std::span<const std::uint8_t> rec);

@@ -139,19 +139,18 @@ void Torva11::charge_journee(std::int16_t numero) {
     FichierRecords& f = canal_fichier(canal::planning);
     f.ferme();
     f.ouvre(nom_fichier_rv(numero, etat.mode_salle), RecRv::longueur);
-    const std::int32_t compte = lit_record<RecRv>(f, 1).lit(RecRv::dernier_num);
-    parcourt_jour(f, compte, etat.date_courante,
-                  [&](std::int32_t n, std::span<const std::uint8_t> rec) {
-                      if (liste_jour.size() >= max_jour || liste_texte.size() >= max_texte)
-                          return false;
-                      const QString debut = RecRv::cle_rv.dans(rec).mid(7, 5);
-                      liste_texte.append(debut + QString(15, QLatin1Char(' ')) +
-                                         sur_une_ligne(RecRv::texte_rv.sans_blancs_dans(rec)));
-                      liste_jour.append(entree_du_jour(n, rec) + QLatin1String("#JJ#") +
-                                        motif_zeros(double(liste_texte.size()), 6) +
-                                        QLatin1Char(':') + debut);
-                      return true;
-                  });
+    parcourt_jour(
+        f, etat.date_courante, [](const RecRv& entete) { return entete.lit(RecRv::dernier_num); },
+        [&](std::int32_t n, std::span<const std::uint8_t> rec) {
+            if (liste_jour.size() >= max_jour || liste_texte.size() >= max_texte) return false;
+            const QString debut = RecRv::cle_rv.dans(rec).mid(7, 5);
+            liste_texte.append(debut + QString(15, QLatin1Char(' ')) +
+                               sur_une_ligne(RecRv::texte_rv.sans_blancs_dans(rec)));
+            liste_jour.append(entree_du_jour(n, rec) + QLatin1String("#JJ#") +
+                              motif_zeros(double(liste_texte.size()), 6) + QLatin1Char(':') +
+                              debut);
+            return true;
+        });
 }
 
 void Torva11::dessine_rv(int i, std::int32_t collab, const QString& e) {

@@ -222,9 +222,8 @@ void Torvar::recherche_rv() {
         ouvre_rv_de(std::int16_t(c));
         FichierRecords& f = canal_fichier(canal::rv);
         // Taken wide and without the repair: a file past 32,767 records is searched whole.
-        const auto compte = [](const RecRv& entete) { return entete.lit(RecRv::dernier_num); };
         parcourt_depuis_entete<RecRv>(
-            f, compte, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
+            f, RecRv::dernier_num, [&](std::int32_t n, std::span<const std::uint8_t> rec) {
                 // Voided, or before the limit (a blank key sorts below "0"): bytes compare as the
                 // texts do against a limit of digits.
                 const std::uint64_t debut_cle = six_premiers(rec.data());

@@ -164,9 +164,8 @@ void Toroutils::Image2_Click() {
 void Toroutils::liste_rv() {
     List1_visible = true;
     FichierRecords& f = canal_fichier(canal::rv);
-    const auto compte = [](const RecRv& entete) { return entete.lit(RecRv::dernier_num); };
     List1.clear();
-    parcourt_depuis_entete<RecRv>(f, compte,
+    parcourt_depuis_entete<RecRv>(f, RecRv::dernier_num,
                                   [&](std::int32_t n, std::span<const std::uint8_t> rec) {
                                       const QString cle = RecRv::cle_rv.dans(rec);
                                       if (!cle.startsWith(QLatin1String("------")))

@@ -167,10 +167,12 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     }
 
     const auto gauche_haut = Qt::AlignLeft | Qt::AlignVCenter;
-    label2_ = texte(pageg_, Torva1::Label2_rect, 18, false, gauche_haut);
-    label3_ = texte(pageg_, Torva1::Label3_rect, 54, true, gauche_haut);
-    label4_ = texte(pageg_, Torva1::Label4_rect, 18, false, gauche_haut);
-    label1_ = texte(pageg_, Torva1::Label1_rect, 14, false, gauche_haut);
+    QLabel* label1 = texte(pageg_, Torva1::Label1_rect, 14, false, gauche_haut);
+    QLabel* label2 = texte(pageg_, Torva1::Label2_rect, 18, false, gauche_haut);
+    QLabel* label3 = texte(pageg_, Torva1::Label3_rect, 54, true, gauche_haut);
+    QLabel* label4 = texte(pageg_, Torva1::Label4_rect, 18, false, gauche_haut);
+    for (std::size_t i = 0; QLabel * l : {label1, label2, label3, label4})
+        date_[i++] = std::make_unique<ui::LegendeGravee>(*pageg_, *l);
     label7_ = texte(paged_, Torva1::Label7_rect, 20, true, Qt::AlignCenter);
     label7_->setCursor(Qt::PointingHandCursor);
     label7_->setToolTip(QStringLiteral("Changer de collaborateur"));
@@ -205,8 +207,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     connect(calend_, &QCalendarWidget::currentPageChanged, this, [this](int, int) { montre(); });
 
     // The title and the buttons stand where the week lays its strips and its note.
-    vue_jour_ = {label1_, label2_,   label3_,   label4_, label7_,
-                 calend_, picture2_, picture3_, bt_out,  bt_imprime};
+    vue_jour_ = {label1,  label2,    label3,    label4, label7_,
+                 calend_, picture2_, picture3_, bt_out, bt_imprime};
     reserves_[reserve_g].parent = pageg_;
     reserves_[reserve_d].parent = paged_;
     // The week and the year are built at their first showing: most days only the day is seen.
@@ -449,10 +451,10 @@ void Torva1Vue::montre() {
         w->setVisible(jour);
     pageg_->montre(jour ? &l_.pageg : nullptr);
     paged_->montre(jour ? &l_.paged : nullptr);
-    label1_->setText(l_.Label1);
-    label2_->setText(l_.Label2);
-    label3_->setText(l_.Label3);
-    label4_->setText(l_.Label4);
+    if (jour)
+        for (std::size_t i = 0;
+             const QString* texte : {&l_.Label1, &l_.Label2, &l_.Label3, &l_.Label4})
+            date_[i++]->montre(*texte);
     label7_->setText(l_.Label7);
     setWindowTitle(l_.Label7 == QLatin1String("Agenda") ? QStringLiteral("Agenda")
                                                         : QStringLiteral("Agenda — ") + l_.Label7);

@@ -23,6 +23,7 @@ namespace agenda {
 
 class Sepaffic;
 namespace ui {
+class LegendeGravee;
 class VueSurface;
 } // namespace ui
 
@@ -51,7 +52,9 @@ private:
     ui::VueSurface* pageg_;
     ui::VueSurface* paged_;
     std::array<QPushButton*, Torva1::nb_onglets> ongletg_{}, ongletd_{};
-    QLabel *label1_, *label2_, *label3_, *label4_, *label7_;
+    QLabel* label7_;
+    // The date's captions on the left page: the year, the day's name, its number, the month.
+    std::array<std::unique_ptr<ui::LegendeGravee>, 4> date_;
     QCalendarWidget* calend_;
     QToolButton *picture2_, *picture3_;
     std::vector<QWidget*> vue_jour_;    // what only the day view shows

@@ -39,6 +39,7 @@ void VueSurface::montre(const Surface* surface) {
     if (surface ? surface_ && surface->meme_dessin(*surface_) : !surface_) return;
     surface_ = surface ? std::optional(*surface) : std::nullopt;
     rendu_ = QImage();
+    ++version_;
     // What opaque children cover is not repainted with the drawing: a new drawing of the page
     // leaves the month control's cells alone.
     QRegion a_repeindre(rect());
@@ -72,6 +73,38 @@ void VueSurface::dessine(QPainter& g) const {
     if (!surface_) return;
     g.scale(px_par_twip(), px_par_twip());
     dessine_surface(g, *surface_);
+}
+
+LegendeGravee::LegendeGravee(VueSurface& surface, QLabel& legende)
+    : surface_(surface), legende_(legende) {}
+
+void LegendeGravee::montre(const QString& texte) {
+    const qreal echelle = legende_.devicePixelRatioF();
+    if (const std::pair de(surface_.version(), echelle); images_de_ != de) {
+        images_.clear();
+        images_de_ = de;
+    }
+    auto [image, nouvelle] = images_.try_emplace(texte);
+    if (nouvelle) {
+        // The surface, then the text over it, at the caption's place in its window: the glyphs'
+        // outlines fall on the very pixels of the caption's own painting.
+        const QPoint place = legende_.mapTo(legende_.window(), QPoint());
+        const QRect ici(place, legende_.size());
+        QPixmap fenetre(QSize(ici.right() + 1, ici.bottom() + 1) * echelle);
+        fenetre.setDevicePixelRatio(echelle);
+        surface_.render(&fenetre, place, QRegion(legende_.geometry()),
+                        QWidget::DrawWindowBackground);
+        QLabel modele(texte);
+        modele.setFont(legende_.font());
+        modele.setPalette(legende_.palette());
+        modele.setAlignment(legende_.alignment());
+        modele.resize(legende_.size());
+        modele.render(&fenetre, place, QRegion(), {});
+        image->second = fenetre.copy(QRect(ici.topLeft() * echelle, ici.size() * echelle));
+        image->second.setDevicePixelRatio(echelle);
+    }
+    legende_.setPixmap(image->second);
+    legende_.setAttribute(Qt::WA_OpaquePaintEvent); // once it has a picture to cover its place
 }
 
 void dessine_surface(QPainter& g, const Surface& surface) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <QImage>
 #include <QPixmap>
@@ -27,6 +28,8 @@ public:
     using Fond = std::function<void(QPainter&, QSize)>;
     VueSurface(QWidget* parent, Fond fond);
     void montre(const Surface* surface);
+    // Changes whenever the picture under the drawing may be made anew.
+    int version() const { return version_; }
     // A click of any button, in twips of the surface.
     std::function<void(int x, int y)> sur_clic;
     // Every move of the pointer over the surface, a button pressed or not.
@@ -44,6 +47,25 @@ private:
     std::function<void(int x, int y)> sur_mouvement;
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QImage rendu_;                   // the background with the drawing on it
+    int version_ = 0;
+};
+
+// A caption on a picture surface, shown as the picture of its text on the surface beneath it.
+// The toolkit draws glyphs too big for its glyph cache from their outlines at every paint: the
+// day's number cost a day step more than the whole scan of a small file. Each text's picture is
+// drawn once, by a caption like this one, and kept; opaque, the caption leaves the surface
+// beneath it alone when it changes. The texts are few: days, months, years.
+class LegendeGravee {
+public:
+    // `legende` is a child of `surface`, with its font, palette and alignment already given.
+    LegendeGravee(VueSurface& surface, QLabel& legende);
+    void montre(const QString& texte);
+
+private:
+    VueSurface& surface_;
+    QLabel& legende_;
+    std::map<QString, QPixmap> images_;
+    std::pair<int, qreal> images_de_{-1, 0}; // the surface's version and scale they were made at
 };
 
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,

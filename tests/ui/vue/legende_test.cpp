@@ -1,0 +1,72 @@
+// A caption shown as a picture must give the pixels of the caption drawing its own text over the
+// same surface, for glyphs drawn from the glyph cache and for those drawn from their outlines,
+// and follow the surface when its drawing changes.
+
+#include "ui/geometrie.h"
+#include "ui/surface.h"
+#include "ui/vue/widgets.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <QFont>
+#include <QLabel>
+#include <QLinearGradient>
+#include <QPainter>
+
+using namespace agenda::ui;
+
+namespace {
+
+// A window with a surface, a graded background under a caption at the place of the book's day
+// number: there the outlines of its glyphs round to other pixels when drawn elsewhere.
+struct Page {
+    QWidget fenetre;
+    VueSurface surface{&fenetre, [](QPainter& g, QSize s) {
+                           QLinearGradient lg(0, 0, s.width(), s.height());
+                           lg.setColorAt(0, QColor(0xfb, 0xf6, 0xe8));
+                           lg.setColorAt(1, QColor(0x90, 0xc0, 0x40));
+                           g.fillRect(QRect(QPoint(), s), lg);
+                       }};
+    QLabel legende{&surface};
+    explicit Page(int pixels) {
+        fenetre.resize(400, 300);
+        surface.setGeometry(37, 11, 300, 250);
+        legende.setGeometry(56, 42, 180, 87);
+        QFont f(QStringLiteral("DejaVu Serif"));
+        f.setPixelSize(pixels);
+        f.setBold(true);
+        legende.setFont(f);
+        QPalette p = legende.palette();
+        p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x1a));
+        legende.setPalette(p);
+        legende.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    QImage vue() { return fenetre.grab().toImage(); }
+};
+
+} // namespace
+
+TEST(LegendeGravee, LesPixelsDeLaLegendeElleMeme) {
+    Surface trait; // a drawing under the caption, for the picture to follow
+    trait.boite(400, 700, 2400, 1400, 0x3050A0);
+    for (const int pixels : {24, 72}) { // in the glyph cache, and too big for it
+        Page texte(pixels), image(pixels);
+        LegendeGravee gravee(image.surface, image.legende);
+        for (const Surface* dessin : std::array<const Surface*, 2>{nullptr, &trait}) {
+            texte.surface.montre(dessin);
+            image.surface.montre(dessin);
+            texte.legende.clear();
+            const QImage vide = texte.vue();
+            for (const QString& t : {QStringLiteral("25"), QStringLiteral("Mercredi"),
+                                     QStringLiteral("25"), QString()}) {
+                texte.legende.setText(t);
+                gravee.montre(t);
+                const std::string cas = std::to_string(pixels) + " " + t.toStdString() +
+                                        (dessin ? " sur le trait" : "");
+                const QImage attendu = texte.vue();
+                ASSERT_EQ(image.vue(), attendu) << cas;
+                EXPECT_EQ(attendu == vide, t.isEmpty()) << cas;
+            }
+        }
+    }
+}

@@ -481,6 +481,7 @@ void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiqu
     // rather than hidden, for showing a widget again asks the X server where the pointer is: a
     // round trip per label at every day step.
     Reserve& reserve = reserves_[std::size_t(r)];
+    reserve.indices.clear();
     std::size_t k = 0;
     if (etiquettes) {
         for (const auto& [i, et] : *etiquettes) {
@@ -488,14 +489,18 @@ void Torva1Vue::montre_etiquettes(int r, const std::map<int, EtiquetteRv>* etiqu
             QLabel* e = reserve.etiquettes[k++];
             ui::place(*e, {et.left, et.top, et.width, et.height});
             e->setText(et.legende);
-            QPalette p = e->palette();
-            p.setColor(QPalette::Window, ui::couleur(et.couleur));
-            e->setPalette(p); // the same palette again is nothing to the toolkit
+            // A palette given again, even the same, is resolved again through the children.
+            if (const QColor fond = ui::couleur(et.couleur);
+                e->palette().color(QPalette::Window) != fond) {
+                QPalette p = e->palette();
+                p.setColor(QPalette::Window, fond);
+                e->setPalette(p);
+            }
             // A frame style, unlike a palette, is laid out again even when it is the same.
             if (const int cadre = et.bordure ? QFrame::Box | QFrame::Plain : QFrame::NoFrame;
                 e->frameStyle() != cadre)
                 e->setFrameStyle(cadre);
-            e->setProperty("indice", i);
+            reserve.indices.push_back(i);
             e->show();
         }
     }
@@ -514,7 +519,9 @@ void Torva1Vue::clic_etiquette(int r, int i) {
 
 QLabel* Torva1Vue::nouvelle_etiquette(int r) {
     auto* e = new QLabel(reserves_[std::size_t(r)].parent);
+    // Which reserve and which of its labels: the appointment it shows changes with the day.
     e->setProperty("reserve", r);
+    e->setProperty("place", int(reserves_[std::size_t(r)].etiquettes.size()));
     // A strip gives an hour 175 twips: its labels keep one line, centred on their height.
     const bool bande = r >= reserve_bande;
     e->setWordWrap(!bande);
@@ -552,18 +559,23 @@ bool Torva1Vue::eventFilter(QObject* o, QEvent* e) {
             return true;
         }
     }
-    // A click on a label is the label's, not the page's beneath it.
-    if (!o->property("indice").isValid()) return QWidget::eventFilter(o, e);
-    if (e->type() == QEvent::MouseButtonPress) return true;
-    if (e->type() == QEvent::MouseButtonRelease) {
-        const auto* w = static_cast<QWidget*>(o);
-        if (w->rect().contains(static_cast<QMouseEvent*>(e)->position().toPoint())) {
-            const int i = o->property("indice").toInt(), r = o->property("reserve").toInt();
+    // A click on a label is the label's, not the page's beneath it. Only a click's events look
+    // for the label's properties: a day step sends each label many others.
+    const bool pression = e->type() == QEvent::MouseButtonPress,
+               relache = e->type() == QEvent::MouseButtonRelease;
+    if (!(pression || relache) || !o->property("reserve").isValid())
+        return QWidget::eventFilter(o, e);
+    if (pression) return true;
+    const auto* w = static_cast<QWidget*>(o);
+    if (w->rect().contains(static_cast<QMouseEvent*>(e)->position().toPoint())) {
+        const int r = o->property("reserve").toInt(), k = o->property("place").toInt();
+        const std::vector<int>& indices = reserves_[std::size_t(r)].indices;
+        if (std::size_t(k) < indices.size()) {
+            const int i = indices[std::size_t(k)];
             apres_le_clic([this, r, i] { clic_etiquette(r, i); });
         }
-        return true;
     }
-    return QWidget::eventFilter(o, e);
+    return true;
 }
 
 void Torva1Vue::keyPressEvent(QKeyEvent* e) {

@@ -65,6 +65,7 @@ private:
     struct Reserve {
         QWidget* parent;
         std::vector<QLabel*> etiquettes;
+        std::vector<int> indices; // the appointment each label shows, by its label's place
     };
     static constexpr int reserve_g = 0, reserve_d = 1, reserve_bande = 2;
     std::array<Reserve, 2 + Torva1::nb_bandes> reserves_{};

@@ -10,6 +10,7 @@
 #include <functional>
 #include <QString>
 #include <span>
+#include <vector>
 
 namespace agenda {
 
@@ -36,10 +37,11 @@ std::int32_t code_jour(Date jour);
 
 // Fills liste_jour for date_courante from the book's file (channel 15). Each entry is the first
 // 19 characters of the key, the number in "000000", ":", the frame flag, "xxxxxxxxx", ":" and
-// the colour.
-void charge_journee();
+// the colour. With `records`, the scan also gives the records of the entries, in their order, as
+// it read them; they are left as they were if the scan fails.
+void charge_journee(std::vector<RecRv>* records = nullptr);
 // The same scan on any file and for any day, for views that show other days or collaborators.
-QStringList scan_journee(FichierRecords& f, Date jour);
+QStringList scan_journee(FichierRecords& f, Date jour, std::vector<RecRv>* records = nullptr);
 // The day lists of the seven days from `lundi`, in one pass over the file.
 std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi);
 // The day's records among the first of a file, as many as `compte(header)` says, in record

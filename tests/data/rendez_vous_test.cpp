@@ -27,9 +27,10 @@ protected:
     QStringList jour(const QByteArray& octets) {
         ecrit(fichier, octets);
         ouvre_rv();
-        charge_journee();
+        charge_journee(&records);
         return etat.liste_jour;
     }
+    std::vector<RecRv> records; // the day's records, as the scan gives them to the labels
 };
 
 } // namespace
@@ -59,6 +60,13 @@ TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
     EXPECT_EQ(liste[1], QStringLiteral("040303:09H30:10H15 000007:0xxxxxxxxx:12632256"));
     EXPECT_EQ(liste[2].left(26), QStringLiteral("040303garbage      000008:"));
     EXPECT_EQ(entree_jour::numero(liste[3]), 9);
+    ASSERT_EQ(records.size(), std::size_t(liste.size()));
+    for (std::size_t k = 0; k < records.size(); ++k) {
+        const auto debut = qsizetype(entree_jour::numero(liste[qsizetype(k)])) * 512;
+        EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(records[k].octets.data()), 512),
+                  octets.mid(debut, 512))
+            << k;
+    }
 
     // A header that says 250 over a file cut in the middle of its last record.
     octets = rv_entete(250);

@@ -128,17 +128,17 @@ void parcourt_jour(FichierRecords& f, Date jour,
                                   });
 }
 
-QStringList scan_journee(FichierRecords& f, Date jour, std::vector<RecRv>* records) {
+Journee scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
-    QStringList liste;
+    Journee j;
     parcourt_jour(
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-            liste.append(entree_du_jour(i, rec));
-            if (records) records->push_back(record_de<RecRv>(rec));
+            j.liste.append(entree_du_jour(i, rec));
+            j.records.push_back(record_de<RecRv>(rec));
             return true;
         });
-    return liste;
+    return j;
 }
 
 std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
@@ -170,11 +170,10 @@ std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
     return listes;
 }
 
-void charge_journee(std::vector<RecRv>* records) {
-    std::vector<RecRv> lus;
-    etat.liste_jour =
-        scan_journee(canal_fichier(canal::rv), etat.date_courante, records ? &lus : nullptr);
-    if (records) *records = std::move(lus);
+std::vector<RecRv> charge_journee() {
+    Journee j = scan_journee(canal_fichier(canal::rv), etat.date_courante);
+    etat.liste_jour = std::move(j.liste);
+    return std::move(j.records);
 }
 
 std::int32_t cherche_note(const QString& cle) {

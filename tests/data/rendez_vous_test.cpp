@@ -27,7 +27,7 @@ protected:
     QStringList jour(const QByteArray& octets) {
         ecrit(fichier, octets);
         ouvre_rv();
-        charge_journee(&records);
+        records = charge_journee();
         return etat.liste_jour;
     }
     std::vector<RecRv> records; // the day's records, as the scan gives them to the labels
@@ -61,12 +61,9 @@ TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
     EXPECT_EQ(liste[2].left(26), QStringLiteral("040303garbage      000008:"));
     EXPECT_EQ(entree_jour::numero(liste[3]), 9);
     ASSERT_EQ(records.size(), std::size_t(liste.size()));
-    for (std::size_t k = 0; k < records.size(); ++k) {
-        const auto debut = qsizetype(entree_jour::numero(liste[qsizetype(k)])) * 512;
+    for (std::size_t k = 0; k < records.size(); ++k) // each entry with the bytes of its record
         EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(records[k].octets.data()), 512),
-                  octets.mid(debut, 512))
-            << k;
-    }
+                  octets.mid(qsizetype(entree_jour::numero(liste[qsizetype(k)])) * 512, 512));
 
     // A header that says 250 over a file cut in the middle of its last record.
     octets = rv_entete(250);

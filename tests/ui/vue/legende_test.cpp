@@ -1,24 +1,21 @@
-// A caption shown as a picture must give the pixels of the caption drawing its own text over the
-// same surface, for glyphs drawn from the glyph cache and for those drawn from their outlines,
-// and follow the surface when its drawing changes.
+// A caption shown as a picture gives the pixels of the caption drawing its own text over the
+// same surface, for glyphs from the glyph cache and from their outlines, and follows the surface.
 
-#include "ui/geometrie.h"
 #include "ui/surface.h"
 #include "ui/vue/widgets.h"
 
-#include <array>
 #include <gtest/gtest.h>
-#include <QFont>
 #include <QLabel>
 #include <QLinearGradient>
 #include <QPainter>
+#include <utility>
 
 using namespace agenda::ui;
 
 namespace {
 
-// A window with a surface, a graded background under a caption at the place of the book's day
-// number: there the outlines of its glyphs round to other pixels when drawn elsewhere.
+// A graded background under a caption at the place of the book's day number: there the outlines
+// of its glyphs round to other pixels when drawn elsewhere.
 struct Page {
     QWidget fenetre;
     VueSurface surface{&fenetre, [](QPainter& g, QSize s) {
@@ -39,7 +36,6 @@ struct Page {
         QPalette p = legende.palette();
         p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x1a));
         legende.setPalette(p);
-        legende.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     }
     QImage vue() { return fenetre.grab().toImage(); }
 };
@@ -52,7 +48,8 @@ TEST(LegendeGravee, LesPixelsDeLaLegendeElleMeme) {
     for (const int pixels : {24, 72}) { // in the glyph cache, and too big for it
         Page texte(pixels), image(pixels);
         LegendeGravee gravee(image.surface, image.legende);
-        for (const Surface* dessin : std::array<const Surface*, 2>{nullptr, &trait}) {
+        for (const Surface* dessin :
+             {static_cast<const Surface*>(nullptr), &std::as_const(trait)}) {
             texte.surface.montre(dessin);
             image.surface.montre(dessin);
             texte.legende.clear();
@@ -61,11 +58,9 @@ TEST(LegendeGravee, LesPixelsDeLaLegendeElleMeme) {
                                      QStringLiteral("25"), QString()}) {
                 texte.legende.setText(t);
                 gravee.montre(t);
-                const std::string cas = std::to_string(pixels) + " " + t.toStdString() +
-                                        (dessin ? " sur le trait" : "");
                 const QImage attendu = texte.vue();
-                ASSERT_EQ(image.vue(), attendu) << cas;
-                EXPECT_EQ(attendu == vide, t.isEmpty()) << cas;
+                ASSERT_EQ(image.vue(), attendu) << pixels << " " << t.toStdString() << dessin;
+                EXPECT_EQ(attendu == vide, t.isEmpty()) << pixels << " " << t.toStdString();
             }
         }
     }

@@ -14,6 +14,8 @@
 #include "ui/dates.h"
 
 #include <cmath>
+#include <future>
+#include <optional>
 #include <QCalendarWidget>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -28,6 +30,7 @@
 #include <QTextCharFormat>
 #include <QTimer>
 #include <QToolButton>
+#include <utility>
 
 namespace agenda {
 
@@ -74,35 +77,70 @@ void colore_feries(QCalendarWidget& calend, int annee, int mois, std::int32_t co
     }
 }
 
-// The leather boards, drawn in the parts of the window where they show.
+// The leather's parts, and each page's background: its paper over the leather beneath its
+// rounded corners.
+struct Fonds {
+    std::vector<QImage> cuir;
+    std::array<QImage, 2> pages; // the left page's, the right page's
+};
+
+// A page's background; `page` its place in the window's pixels, painted over `taille` device
+// pixels.
+void page_sur_le_cuir(QPainter& g, QSize taille, const std::vector<QRect>& parties,
+                      const std::vector<QImage>& cuir, const QRect& page, bool gauche) {
+    g.save();
+    g.scale(double(taille.width()) / page.width(), double(taille.height()) / page.height());
+    for (std::size_t i = 0; i < parties.size(); ++i)
+        if (parties[i].intersects(page))
+            g.drawImage(parties[i].topLeft() - page.topLeft(), cuir[i]);
+    g.restore();
+    ui::icc::page(g, taille, gauche);
+}
+
+// The leather boards, drawn in the parts of the window where they show. Their grain and the
+// pages' were a fifth of the start: a second thread draws them, and the pages' backgrounds for
+// their first showing, while the book is built and its day loaded.
 class Couverture : public QWidget {
 public:
-    Couverture(QWidget* parent, const QRegion& visible) : QWidget(parent) {
+    Couverture(QWidget* parent, const QRegion& visible, const std::array<QRect, 2>& pages)
+        : QWidget(parent), parties_(visible.begin(), visible.end()) {
         setGeometry(parent->rect());
-        const std::vector<QRect> parties(visible.begin(), visible.end());
-        const std::vector<QPixmap> images = ui::icc::couverture(size(), parties);
-        for (std::size_t i = 0; i < parties.size(); ++i)
-            parties_.emplace_back(parties[i], images[i]);
+        fonds_ = std::async(std::launch::async, [taille = size(), parties = parties_, pages,
+                                                 echelle = devicePixelRatioF()] {
+            Fonds f;
+            f.cuir = ui::icc::couverture(taille, parties);
+            for (std::size_t i = 0; i < pages.size(); ++i)
+                f.pages[i] = ui::VueSurface::image_du_fond(
+                    [&](QPainter& g, QSize s) {
+                        page_sur_le_cuir(g, s, parties, f.cuir, pages[i], i == 0);
+                    },
+                    pages[i].size() * echelle, echelle);
+            return f;
+        });
     }
-    // What lies under `r` (in the window's pixels) drawn at the painter's origin, `r` filling
-    // `taille` device pixels.
-    void dessous(QPainter& g, const QRect& r, QSize taille) const {
-        g.save();
-        g.scale(double(taille.width()) / r.width(), double(taille.height()) / r.height());
-        for (const auto& [partie, image] : parties_)
-            if (partie.intersects(r)) g.drawPixmap(partie.topLeft() - r.topLeft(), image);
-        g.restore();
+    // The page's background at `r` (in the window's pixels) over `taille` device pixels.
+    void page(QPainter& g, const QRect& r, QSize taille, bool gauche) {
+        page_sur_le_cuir(g, taille, parties_, fonds().cuir, r, gauche);
     }
+    // The page's background made beforehand, given once.
+    QImage page_prete(bool gauche) { return std::exchange(fonds().pages[gauche ? 0 : 1], {}); }
 
 protected:
     void paintEvent(QPaintEvent* e) override {
         QPainter g(this);
-        for (const auto& [partie, image] : parties_)
-            if (e->region().intersects(partie)) g.drawPixmap(partie.topLeft(), image);
+        const std::vector<QImage>& cuir = fonds().cuir;
+        for (std::size_t i = 0; i < parties_.size(); ++i)
+            if (e->region().intersects(parties_[i])) g.drawImage(parties_[i].topLeft(), cuir[i]);
     }
 
 private:
-    std::vector<std::pair<QRect, QPixmap>> parties_;
+    Fonds& fonds() {
+        if (!faits_) faits_ = fonds_.get();
+        return *faits_;
+    }
+    std::vector<QRect> parties_;
+    std::future<Fonds> fonds_; // waited for, if still drawing, when the book goes
+    std::optional<Fonds> faits_;
 };
 
 } // namespace
@@ -126,20 +164,22 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             cuir += QRect(coin, QSize(c, c));
     }
     cuir -= ui::px(Torva1::Picture1_rect);
-    auto* fond = new Couverture(this, cuir);
+    auto* fond =
+        new Couverture(this, cuir, {ui::px(Torva1::pageg_rect), ui::px(Torva1::paged_rect)});
 
     // Each page's picture carries the boards beneath its rounded corners, so that the page is
     // opaque: a repaint over a page does not paint the boards first.
     const auto page_sur_la_couverture = [this, fond](bool gauche) {
         return [this, fond, gauche](QPainter& g, QSize s) {
-            fond->dessous(g, (gauche ? pageg_ : paged_)->geometry(), s);
-            ui::icc::page(g, s, gauche);
+            fond->page(g, (gauche ? pageg_ : paged_)->geometry(), s, gauche);
         };
     };
     pageg_ = new ui::VueSurface(this, page_sur_la_couverture(true));
     paged_ = new ui::VueSurface(this, page_sur_la_couverture(false));
-    for (ui::VueSurface* page : {pageg_, paged_})
+    for (ui::VueSurface* page : {pageg_, paged_}) {
         page->setAttribute(Qt::WA_OpaquePaintEvent);
+        page->fond_pret([fond, gauche = page == pageg_] { return fond->page_prete(gauche); });
+    }
     ui::place(*pageg_, Torva1::pageg_rect);
     ui::place(*paged_, Torva1::paged_rect);
     pageg_->sur_clic = [this](int x, int y) {

@@ -283,7 +283,7 @@ QPixmap titre_onglet(int i, QSize t, bool gauche) {
 
 } // namespace
 
-std::vector<QPixmap> couverture(QSize t, const std::vector<QRect>& parties) {
+std::vector<QImage> couverture(QSize t, const std::vector<QRect>& parties) {
     t = t.expandedTo(QSize(1, 1));
     QRadialGradient rg(t.width() / 2.0, t.height() / 2.0, std::max(t.width(), t.height()) * 0.7);
     rg.setColorAt(0, cuir_clair);
@@ -302,7 +302,6 @@ std::vector<QPixmap> couverture(QSize t, const std::vector<QRect>& parties) {
         morceaux.push_back({&p, r.topLeft()});
     }
     grain_dans(morceaux, t, 6, Qt::black);
-    std::vector<QPixmap> pixmaps;
     for (const Partie& partie : morceaux) {
         // A gilt fillet round the boards.
         QPainter g(partie.image);
@@ -310,15 +309,13 @@ std::vector<QPixmap> couverture(QSize t, const std::vector<QRect>& parties) {
         const int m = std::max(2, t.width() / 160);
         g.setPen(QPen(or_vieux, std::max(1, m / 3)));
         g.drawRoundedRect(QRectF(m, m, t.width() - 2.0 * m, t.height() - 2.0 * m), m, m);
-        g.end();
-        pixmaps.push_back(QPixmap::fromImage(std::move(*partie.image)));
     }
-    return pixmaps;
+    return images;
 }
 
 QPixmap couverture(QSize t) {
     return garde(QStringLiteral("couverture"), t,
-                 [&] { return couverture(t, {QRect(QPoint(), t)}).front(); });
+                 [&] { return QPixmap::fromImage(couverture(t, {QRect(QPoint(), t)}).front()); });
 }
 
 void page(QPainter& g, QSize t, bool gauche) {

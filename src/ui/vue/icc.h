@@ -21,8 +21,8 @@ inline const QColor papier(0xfb, 0xf6, 0xe8), papier_ombre(0xe2, 0xd6, 0xbb),
 
 QPixmap couverture(QSize taille); // the leather under the open book
 // The same leather in parts of the whole only, where it shows between what lies on it: each
-// part's picture as the whole has it there.
-std::vector<QPixmap> couverture(QSize taille, const std::vector<QRect>& parties);
+// part's picture as the whole has it there. Images, which another thread may make.
+std::vector<QImage> couverture(QSize taille, const std::vector<QRect>& parties);
 QPixmap icone(QSize taille); // the program's own: the bound book, open
 // A page, its gutter towards the spine, drawn straight on the painter: the page surfaces keep
 // what they show, so the picture is kept nowhere else.

@@ -50,29 +50,34 @@ void VueSurface::montre(const Surface* surface) {
     update(a_repeindre);
 }
 
-void VueSurface::paintEvent(QPaintEvent*) {
-    const QSize voulu = size() * devicePixelRatioF();
-    if (rendu_.size() != voulu) {
-        // An image, not a pixmap: a background can then blend its grain straight into it.
-        rendu_ = QImage(voulu, QImage::Format_ARGB32_Premultiplied);
-        rendu_.setDevicePixelRatio(devicePixelRatioF());
-        rendu_.fill(Qt::transparent);
-        QPainter g(&rendu_);
-        dessine(g);
+QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle) {
+    // An image, not a pixmap: a background can then blend its grain straight into it.
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(echelle);
+    image.fill(Qt::transparent);
+    if (fond) {
+        QPainter g(&image);
+        g.scale(1 / echelle, 1 / echelle);
+        fond(g, pixels);
     }
-    QPainter(this).drawImage(0, 0, rendu_); // clipped to what needs repainting
+    return image;
 }
 
-void VueSurface::dessine(QPainter& g) const {
-    if (fond_) {
-        g.save();
-        g.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-        fond_(g, rendu_.size());
-        g.restore();
+void VueSurface::paintEvent(QPaintEvent*) {
+    const qreal echelle = devicePixelRatioF();
+    const QSize voulu = size() * echelle;
+    if (rendu_.size() != voulu) {
+        QImage pret = fond_pret_ ? std::exchange(fond_pret_, nullptr)() : QImage();
+        rendu_ = pret.size() == voulu && pret.devicePixelRatio() == echelle
+                     ? std::move(pret)
+                     : image_du_fond(fond_, voulu, echelle);
+        if (surface_) {
+            QPainter g(&rendu_);
+            g.scale(px_par_twip(), px_par_twip());
+            dessine_surface(g, *surface_);
+        }
     }
-    if (!surface_) return;
-    g.scale(px_par_twip(), px_par_twip());
-    dessine_surface(g, *surface_);
+    QPainter(this).drawImage(0, 0, rendu_); // clipped to what needs repainting
 }
 
 LegendeGravee::LegendeGravee(VueSurface& surface, QLabel& legende)

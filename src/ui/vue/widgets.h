@@ -27,6 +27,12 @@ public:
     // Draws the background at a size in device pixels.
     using Fond = std::function<void(QPainter&, QSize)>;
     VueSurface(QWidget* parent, Fond fond);
+    // The background alone, as the surface makes it at `pixels` device pixels: for a background
+    // made beforehand, on another thread say.
+    static QImage image_du_fond(const Fond& fond, QSize pixels, qreal echelle);
+    // The background the surface takes, once, in place of drawing its own: what `pret` gives,
+    // if it has the size of the surface's device pixels then.
+    void fond_pret(std::function<QImage()> pret) { fond_pret_ = std::move(pret); }
     void montre(const Surface* surface);
     // Changes whenever the picture under the drawing may be made anew.
     int version() const { return version_; }
@@ -42,8 +48,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* e) override;
 
 private:
-    void dessine(QPainter& g) const;
     Fond fond_;
+    std::function<QImage()> fond_pret_;
     std::function<void(int x, int y)> sur_mouvement;
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QImage rendu_;                   // the background with the drawing on it

@@ -62,15 +62,15 @@ TEST(Grain, LesPixelsDuPeintre) {
 
 TEST(Couverture, ChaquePartieTelleQueDansLeTout) {
     const QSize tout(1280, 923);
-    const QImage entiere = icc::couverture(tout, {QRect(QPoint(), tout)}).front().toImage();
+    const QImage entiere = icc::couverture(tout, {QRect(QPoint(), tout)}).front();
     // The margins, a page's corners, a part across the gilt fillet, a pixel, the last corner.
     const std::vector<QRect> parties = {{0, 0, 50, 923},  {1225, 0, 55, 923}, {50, 912, 1175, 11},
                                         {50, 0, 11, 11},  {589, 901, 11, 11}, {4, 300, 9, 40},
                                         {640, 461, 1, 1}, {1279, 922, 1, 1}};
-    const std::vector<QPixmap> images = icc::couverture(tout, parties);
+    const std::vector<QImage> images = icc::couverture(tout, parties);
     ASSERT_EQ(images.size(), parties.size());
     for (std::size_t i = 0; i < parties.size(); ++i)
-        EXPECT_EQ(images[i].toImage(), entiere.copy(parties[i]))
+        EXPECT_EQ(images[i], entiere.copy(parties[i]))
             << parties[i].x() << "," << parties[i].y() << " " << parties[i].width() << "x"
             << parties[i].height();
 }

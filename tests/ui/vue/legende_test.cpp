@@ -1,5 +1,6 @@
 // A caption shown as a picture gives the pixels of the caption drawing its own text over the
 // same surface, for glyphs from the glyph cache and from their outlines, and follows the surface.
+// A surface's background made beforehand gives the pixels of the surface's own.
 
 #include "ui/surface.h"
 #include "ui/vue/widgets.h"
@@ -16,14 +17,16 @@ namespace {
 
 // A graded background under a caption at the place of the book's day number: there the outlines
 // of its glyphs round to other pixels when drawn elsewhere.
+void degrade(QPainter& g, QSize s) {
+    QLinearGradient lg(0, 0, s.width(), s.height());
+    lg.setColorAt(0, QColor(0xfb, 0xf6, 0xe8));
+    lg.setColorAt(1, QColor(0x90, 0xc0, 0x40));
+    g.fillRect(QRect(QPoint(), s), lg);
+}
+
 struct Page {
     QWidget fenetre;
-    VueSurface surface{&fenetre, [](QPainter& g, QSize s) {
-                           QLinearGradient lg(0, 0, s.width(), s.height());
-                           lg.setColorAt(0, QColor(0xfb, 0xf6, 0xe8));
-                           lg.setColorAt(1, QColor(0x90, 0xc0, 0x40));
-                           g.fillRect(QRect(QPoint(), s), lg);
-                       }};
+    VueSurface surface{&fenetre, degrade};
     QLabel legende{&surface};
     explicit Page(int pixels) {
         fenetre.resize(400, 300);
@@ -63,5 +66,32 @@ TEST(LegendeGravee, LesPixelsDeLaLegendeElleMeme) {
                 EXPECT_EQ(attendu == vide, t.isEmpty()) << pixels << " " << t.toStdString();
             }
         }
+    }
+}
+
+TEST(VueSurface, UnFondFaitDAvanceDonneLesPixelsDuSien) {
+    Surface trait;
+    trait.boite(400, 700, 2400, 1400, 0x3050A0);
+    Page propre(24);
+    propre.surface.montre(&trait);
+    const QImage attendu = propre.vue();
+    const QSize pixels = propre.surface.size() * propre.surface.devicePixelRatioF();
+    QImage rouge(pixels, QImage::Format_ARGB32_Premultiplied);
+    rouge.fill(Qt::red);
+    const qreal echelle = propre.surface.devicePixelRatioF();
+    // The surface's own background made elsewhere, a picture of another size, one it takes.
+    for (const auto& [pret, pris] :
+         {std::pair{VueSurface::image_du_fond(degrade, pixels, echelle), false},
+          {rouge.scaled(pixels / 2), false},
+          {rouge, true}}) {
+        Page page(24);
+        int appels = 0;
+        page.surface.fond_pret([&, pret = pret] { return ++appels, pret; });
+        page.surface.montre(&trait);
+        EXPECT_EQ(page.vue() != attendu, pris);
+        page.surface.montre(nullptr); // given once: the next drawing has the surface's own
+        page.surface.montre(&trait);
+        EXPECT_EQ(page.vue(), attendu);
+        EXPECT_EQ(appels, 1);
     }
 }

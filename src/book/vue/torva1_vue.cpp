@@ -98,7 +98,7 @@ void page_sur_le_cuir(QPainter& g, QSize taille, const std::vector<QRect>& parti
 }
 
 // The leather boards, drawn in the parts of the window where they show. Their grain and the
-// pages' were a fifth of the start: a second thread draws them, and the pages' backgrounds for
+// pages' took a tenth of the start: a second thread draws them, and the pages' backgrounds for
 // their first showing, while the book is built and its day loaded.
 class Couverture : public QWidget {
 public:

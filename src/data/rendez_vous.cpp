@@ -131,10 +131,6 @@ void parcourt_jour(FichierRecords& f, Date jour,
 Journee scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
     Journee j;
-    // Room for a full day at once: the first allocations of a load cost it as much as its reads.
-    constexpr int jour_plein = 32;
-    j.liste.reserve(jour_plein);
-    j.records.reserve(jour_plein);
     parcourt_jour(
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {

@@ -15,7 +15,6 @@
 
 #include <cmath>
 #include <future>
-#include <optional>
 #include <QCalendarWidget>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -134,13 +133,14 @@ protected:
     }
 
 private:
+    // The thread's pictures, waited for the first time; the future is spent once taken.
     Fonds& fonds() {
-        if (!faits_) faits_ = fonds_.get();
-        return *faits_;
+        if (fonds_.valid()) faits_ = fonds_.get();
+        return faits_;
     }
     std::vector<QRect> parties_;
     std::future<Fonds> fonds_; // waited for, if still drawing, when the book goes
-    std::optional<Fonds> faits_;
+    Fonds faits_;
 };
 
 } // namespace

@@ -88,11 +88,10 @@ void LegendeGravee::montre(const QString& texte) {
     if (const std::pair de(surface_.version(), echelle); images_de_ != de) {
         images_.clear();
         images_de_ = de;
-        montree_.reset();
     }
-    // The same picture given again would still be painted again.
-    if (montree_ == texte) return;
     auto [image, nouvelle] = images_.try_emplace(texte);
+    // The same picture given again would still be painted again.
+    if (!nouvelle && legende_.pixmap().cacheKey() == image->second.cacheKey()) return;
     if (nouvelle) {
         // The surface, then the text over it, at the caption's place in its window: the glyphs'
         // outlines fall on the very pixels of the caption's own painting.
@@ -113,7 +112,6 @@ void LegendeGravee::montre(const QString& texte) {
     }
     legende_.setPixmap(image->second);
     legende_.setAttribute(Qt::WA_OpaquePaintEvent); // once it has a picture to cover its place
-    montree_ = texte;
 }
 
 void dessine_surface(QPainter& g, const Surface& surface) {

@@ -72,7 +72,6 @@ private:
     QLabel& legende_;
     std::map<QString, QPixmap> images_;
     std::pair<int, qreal> images_de_{-1, 0}; // the surface's version and scale they were made at
-    std::optional<QString> montree_;         // the text whose picture is shown
 };
 
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,

@@ -56,11 +56,15 @@ std::uint8_t octet_cp1252(QChar c) {
     return '?';
 }
 
+QChar* decode_cp1252(TamponLu octets, QChar* dans) {
+    for (const std::uint8_t o : octets)
+        *dans++ = car_cp1252(o);
+    return dans;
+}
+
 QString depuis_cp1252(TamponLu octets) {
     QString s(static_cast<qsizetype>(octets.size()), Qt::Uninitialized);
-    QChar* c = s.data();
-    for (const std::uint8_t o : octets)
-        *c++ = car_cp1252(o);
+    decode_cp1252(octets, s.data());
     return s;
 }
 

@@ -33,5 +33,7 @@ void blanchit(Tampon buf, int offset, int largeur);
 
 QByteArray vers_cp1252(QStringView s);
 QString depuis_cp1252(TamponLu octets);
+// The same into characters already allocated; gives the end of those written.
+QChar* decode_cp1252(TamponLu octets, QChar* dans);
 
 } // namespace agenda::octets

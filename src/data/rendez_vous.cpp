@@ -37,9 +37,7 @@ QString entree_du_jour(std::int32_t i, std::span<const std::uint8_t> rec) {
     QString e(debut_cle + zeros + numero.taille() + 1 + cadre.taille() + int(milieu.size()) +
                   couleur.taille(),
               Qt::Uninitialized);
-    QChar* c = e.data();
-    for (int k = 0; k < debut_cle; ++k)
-        *c++ = octets::car_cp1252(rec[std::size_t(RecRv::cle_rv.offset + k)]);
+    QChar* c = octets::decode_cp1252(rec.subspan(RecRv::cle_rv.offset, debut_cle), e.data());
     const auto ajoute = [&](std::string_view t) {
         for (const char x : t)
             *c++ = QLatin1Char(x);
@@ -60,8 +58,9 @@ namespace {
 template <std::size_t N>
 struct DebutCle {
     explicit DebutCle(const QString& texte) {
-        const QByteArray b = octets::vers_cp1252(cadre(texte, int(N)));
-        std::memcpy(octets.data(), b.constData(), N);
+        const QString t = cadre(texte, int(N));
+        for (std::size_t k = 0; k < N; ++k)
+            octets[k] = octets::octet_cp1252(t[qsizetype(k)]);
     }
     bool ouvre(std::span<const std::uint8_t> rec) const {
         return std::memcmp(rec.data(), octets.data(), N) == 0;
@@ -103,7 +102,16 @@ std::int32_t repare_entete(FichierRecords& f, RecRv entete) {
 }
 
 QString motif_jour(Date d) {
-    return ui::format_date(d, u"yymmdd");
+    // Written digit by digit: every day scan starts with it.
+    const QDate j = ui::jour_de(d);
+    if (j.year() < 0) return ui::format_date(d, u"yymmdd");
+    const std::array<int, 3> parts = {j.year() % 100, j.month(), j.day()};
+    QString m(6, Qt::Uninitialized);
+    for (std::size_t k = 0; k < parts.size(); ++k) {
+        m[2 * qsizetype(k)] = QLatin1Char(char('0' + parts[k] / 10));
+        m[2 * qsizetype(k) + 1] = QLatin1Char(char('0' + parts[k] % 10));
+    }
+    return m;
 }
 
 QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
@@ -131,11 +139,18 @@ void parcourt_jour(FichierRecords& f, Date jour,
 Journee scan_journee(FichierRecords& f, Date jour) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
     Journee j;
+    // Room for a full day at once: growing one entry at a time costs a load as much as its
+    // reads on a small file.
+    constexpr int jour_plein = 16;
+    j.liste.reserve(jour_plein);
+    j.records.reserve(jour_plein);
     parcourt_jour(
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {
             j.liste.append(entree_du_jour(i, rec));
-            j.records.push_back(record_de<RecRv>(rec));
+            // Copied straight into its place: a record made apart and moved in costs a second copy.
+            auto& r = j.records.emplace_back().octets;
+            std::copy_n(rec.begin(), std::min(rec.size(), r.size()), r.begin());
             return true;
         });
     return j;

@@ -76,6 +76,10 @@ void VueSurface::paintEvent(QPaintEvent*) {
             g.scale(px_par_twip(), px_par_twip());
             dessine_surface(g, *surface_);
         }
+        // An opaque surface's every pixel is opaque, so its picture is copied to the window
+        // rather than blended: the same bytes read as pixels without alpha.
+        if (testAttribute(Qt::WA_OpaquePaintEvent))
+            rendu_.reinterpretAsFormat(QImage::Format_RGB32);
     }
     QPainter(this).drawImage(0, 0, rendu_); // clipped to what needs repainting
 }

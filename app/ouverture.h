@@ -5,11 +5,13 @@
 #include "book/torva1.h"
 #include "book/vue/torva1_vue.h"
 
+#include <future>
 #include <memory>
 
 namespace agenda {
 
 struct Programme {
+    std::future<void> bus_de_session; // looked up on the side while the book is built
     Torva1 livre;
     Torva1Vue vue{livre};
 };

@@ -11,7 +11,10 @@
 namespace agenda {
 
 struct Programme {
-    std::future<void> bus_de_session; // looked up on the side while the book is built
+    ~Programme() {
+        if (bus_de_session.valid()) bus_de_session.wait();
+    }
+    std::shared_future<void> bus_de_session; // looked up on the side while the book is built
     Torva1 livre;
     Torva1Vue vue{livre};
 };

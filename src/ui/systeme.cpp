@@ -113,6 +113,12 @@ void avant_la_fin(std::function<void()> action) {
     actions_finales().push_back(std::move(action));
 }
 
+std::shared_future<void> a_cote(std::function<void()> travail) {
+    auto fait = std::async(std::launch::async, std::move(travail)).share();
+    avant_la_fin([fait] { fait.wait(); });
+    return fait;
+}
+
 void termine(int code) {
     for (const auto& a : actions_finales())
         a();

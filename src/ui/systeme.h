@@ -3,6 +3,7 @@
 // the mouse pointer and starting another program. Tests set the clock.
 
 #include <functional>
+#include <future>
 #include <QDateTime>
 #include <QString>
 
@@ -43,6 +44,9 @@ void fixe_message_fatal(std::function<void(const QString&)> montre);
 
 // What must be done before any end of the program (closing the files), in the order given.
 void avant_la_fin(std::function<void()> action);
+// Work given to a thread of its own, which every end of the program waits for: it draws or asks
+// through the toolkit, whose globals go with the program. Its owner waits for it before going.
+std::shared_future<void> a_cote(std::function<void()> travail);
 // Ends the program at once with this status, after the actions above.
 [[noreturn]] void termine(int code);
 // Replaces the end (tests): the function must not return, it throws.

@@ -3,10 +3,14 @@
 
 #include "ui/geometrie.h"
 #include "ui/surface.h"
+#include "ui/systeme.h"
 
+#include <atomic>
+#include <chrono>
 #include <gtest/gtest.h>
 #include <QGuiApplication>
 #include <QPalette>
+#include <thread>
 
 using namespace agenda::ui;
 
@@ -21,4 +25,23 @@ TEST(Ui, CouleursEtCadre) {
     EXPECT_EQ(p[4], (RectTwips{0, 180, 180, 2640}));
     EXPECT_EQ(p[7], (RectTwips{180, 2820, 5640, 180}));
     EXPECT_EQ(centre_haut(19200, 6000, 3000), (RectTwips{6600, 4035, 6000, 3000}));
+}
+
+TEST(Ui, LaFinAttendLeTravailACote) {
+    // Work that is still running when the program ends: the end waits for it, as it would for
+    // a thread drawing with the toolkit that the end takes away.
+    std::atomic<bool> fini = false;
+    const auto fait = a_cote([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        fini = true;
+    });
+    struct Fin {};
+    bool fini_a_la_fin = false;
+    fixe_fin([&](int) {
+        fini_a_la_fin = fini;
+        throw Fin{};
+    });
+    EXPECT_THROW(termine(1), Fin);
+    fixe_fin({});
+    EXPECT_TRUE(fini_a_la_fin);
 }

@@ -2,6 +2,7 @@
 
 #include "planning/vue/sepaffic.h"
 #include "ui/erreur.h"
+#include "ui/systeme.h"
 #include "ui/vue/boutons.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
@@ -14,7 +15,7 @@
 #include "ui/dates.h"
 
 #include <cmath>
-#include <future>
+#include <memory>
 #include <QCalendarWidget>
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -104,19 +105,18 @@ public:
     Couverture(QWidget* parent, const QRegion& visible, const std::array<QRect, 2>& pages)
         : QWidget(parent), parties_(visible.begin(), visible.end()) {
         setGeometry(parent->rect());
-        fonds_ = std::async(std::launch::async, [taille = size(), parties = parties_, pages,
-                                                 echelle = devicePixelRatioF()] {
-            Fonds f;
-            f.cuir = ui::icc::couverture(taille, parties);
+        fait_ = ui::a_cote([fonds = faits_, taille = size(), parties = parties_, pages,
+                            echelle = devicePixelRatioF()] {
+            fonds->cuir = ui::icc::couverture(taille, parties);
             for (std::size_t i = 0; i < pages.size(); ++i)
-                f.pages[i] = ui::VueSurface::image_du_fond(
+                fonds->pages[i] = ui::VueSurface::image_du_fond(
                     [&](QPainter& g, QSize s) {
-                        page_sur_le_cuir(g, s, parties, f.cuir, pages[i], i == 0);
+                        page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
                     },
                     pages[i].size() * echelle, echelle);
-            return f;
         });
     }
+    ~Couverture() override { fait_.wait(); }
     // The page's background at `r` (in the window's pixels) over `taille` device pixels.
     void page(QPainter& g, const QRect& r, QSize taille, bool gauche) {
         page_sur_le_cuir(g, taille, parties_, fonds().cuir, r, gauche);
@@ -133,14 +133,14 @@ protected:
     }
 
 private:
-    // The thread's pictures, waited for the first time; the future is spent once taken.
+    // The thread's pictures, waited for the first time they are needed.
     Fonds& fonds() {
-        if (fonds_.valid()) faits_ = fonds_.get();
-        return faits_;
+        fait_.wait();
+        return *faits_;
     }
     std::vector<QRect> parties_;
-    std::future<Fonds> fonds_; // waited for, if still drawing, when the book goes
-    Fonds faits_;
+    const std::shared_ptr<Fonds> faits_ = std::make_shared<Fonds>(); // filled by the thread
+    std::shared_future<void> fait_;
 };
 
 } // namespace

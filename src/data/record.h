@@ -71,12 +71,19 @@ void ecrit_record(FichierRecords& f, std::int64_t r, const Rec& rec) {
     f.ecrit(r, rec.octets);
 }
 
+// Bytes a scan holds, copied into a blank record where it stands (in a vector, say): the bytes
+// missing stay blank.
+template <class Rec>
+void copie_dans(Rec& rec, std::span<const std::uint8_t> octets) {
+    std::copy_n(octets.begin(), std::min<std::size_t>(octets.size(), Rec::longueur),
+                rec.octets.begin());
+}
+
 // A record from bytes a scan holds.
 template <class Rec>
 Rec record_de(std::span<const std::uint8_t> octets) {
     Rec rec;
-    std::copy_n(octets.begin(), std::min<std::size_t>(octets.size(), Rec::longueur),
-                rec.octets.begin());
+    copie_dans(rec, octets);
     return rec;
 }
 

@@ -58,9 +58,8 @@ namespace {
 template <std::size_t N>
 struct DebutCle {
     explicit DebutCle(const QString& texte) {
-        const QString t = cadre(texte, int(N));
-        for (std::size_t k = 0; k < N; ++k)
-            octets[k] = octets::octet_cp1252(t[qsizetype(k)]);
+        const QByteArray b = octets::vers_cp1252(cadre(texte, int(N)));
+        std::memcpy(octets.data(), b.constData(), N);
     }
     bool ouvre(std::span<const std::uint8_t> rec) const {
         return std::memcmp(rec.data(), octets.data(), N) == 0;
@@ -102,16 +101,7 @@ std::int32_t repare_entete(FichierRecords& f, RecRv entete) {
 }
 
 QString motif_jour(Date d) {
-    // Written digit by digit: every day scan starts with it.
-    const QDate j = ui::jour_de(d);
-    if (j.year() < 0) return ui::format_date(d, u"yymmdd");
-    const std::array<int, 3> parts = {j.year() % 100, j.month(), j.day()};
-    QString m(6, Qt::Uninitialized);
-    for (std::size_t k = 0; k < parts.size(); ++k) {
-        m[2 * qsizetype(k)] = QLatin1Char(char('0' + parts[k] / 10));
-        m[2 * qsizetype(k) + 1] = QLatin1Char(char('0' + parts[k] % 10));
-    }
-    return m;
+    return ui::format_date(d, u"yymmdd");
 }
 
 QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
@@ -148,9 +138,8 @@ Journee scan_journee(FichierRecords& f, Date jour) {
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {
             j.liste.append(entree_du_jour(i, rec));
-            // Copied straight into its place: a record made apart and moved in costs a second copy.
-            auto& r = j.records.emplace_back().octets;
-            std::copy_n(rec.begin(), std::min(rec.size(), r.size()), r.begin());
+            // Copied where it stands: a record made apart and moved in is copied twice.
+            copie_dans(j.records.emplace_back(), rec);
             return true;
         });
     return j;

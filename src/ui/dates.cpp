@@ -52,23 +52,41 @@ QString nom_mois(int m) {
 
 QString format_date(Date d, QStringView motif) {
     const QDate j = jour_de(d);
-    const auto deux = [](int n) { return QString::number(n).rightJustified(2, QLatin1Char('0')); };
     QString r;
+    r.reserve(motif.size() + 8);
+    // Two digits straight into the text: every day scan's key pattern is three of them.
+    const auto deux = [&r](int n) {
+        if (n < 0 || n > 99) {
+            r += QString::number(n).rightJustified(2, QLatin1Char('0'));
+            return;
+        }
+        r += QLatin1Char(char('0' + n / 10));
+        r += QLatin1Char(char('0' + n % 10));
+    };
     for (qsizetype i = 0; i < motif.size();) {
         const QChar c = motif[i];
         qsizetype n = 1;
         while (i + n < motif.size() && motif[i + n] == c)
             ++n;
         if (c == QLatin1Char('d')) {
-            r += n >= 4   ? nom_jour(jour_semaine(d))
-                 : n == 2 ? deux(j.day())
-                          : QString::number(j.day());
+            if (n >= 4)
+                r += nom_jour(jour_semaine(d));
+            else if (n == 2)
+                deux(j.day());
+            else
+                r += QString::number(j.day());
         } else if (c == QLatin1Char('m')) {
-            r += n >= 4   ? nom_mois(j.month())
-                 : n == 2 ? deux(j.month())
-                          : QString::number(j.month());
+            if (n >= 4)
+                r += nom_mois(j.month());
+            else if (n == 2)
+                deux(j.month());
+            else
+                r += QString::number(j.month());
         } else if (c == QLatin1Char('y')) {
-            r += n >= 4 ? QString::number(j.year()) : deux(j.year() % 100);
+            if (n >= 4)
+                r += QString::number(j.year());
+            else
+                deux(j.year() % 100);
         } else {
             r += motif.mid(i, n);
         }

@@ -114,7 +114,12 @@ void avant_la_fin(std::function<void()> action) {
 }
 
 std::shared_future<void> a_cote(std::function<void()> travail) {
-    auto fait = std::async(std::launch::async, std::move(travail)).share();
+    // The work is let go once done: the wait kept for the end would otherwise keep what it holds
+    // (a view's pictures) for the rest of the program.
+    auto fait = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
+                    travail();
+                    travail = nullptr;
+                }).share();
     avant_la_fin([fait] { fait.wait(); });
     return fait;
 }

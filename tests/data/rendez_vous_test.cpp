@@ -72,14 +72,6 @@ TEST_F(Rendezvous, LeBalayageDuJourPasseSurLesAnnulesEtLesClesAbimees) {
     EXPECT_EQ(jour(octets.left(octets.size() - 400)).size(), 250);
 }
 
-TEST(MotifJour, AnneeMoisJourSurDeuxChiffresChacun) {
-    for (const auto& [jour, motif] : {std::pair{QDate(1999, 12, 31), "991231"},
-                                      {QDate(2000, 1, 9), "000109"},
-                                      {QDate(2026, 11, 25), "261125"},
-                                      {QDate(2104, 10, 1), "041001"}})
-        EXPECT_EQ(motif_jour(ui::date_de(jour)).toStdString(), motif) << jour.year();
-}
-
 TEST_F(Rendezvous, LeBalayageTraverseLesBlocsJusquAuBoutDuFichier) {
     // The day's appointments around the ends of the blocks a scan reads, the first of which
     // also holds the header.

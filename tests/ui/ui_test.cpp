@@ -28,20 +28,17 @@ TEST(Ui, CouleursEtCadre) {
 }
 
 TEST(Ui, LaFinAttendLeTravailACote) {
-    // Work that is still running when the program ends: the end waits for it, as it would for
-    // a thread drawing with the toolkit that the end takes away.
-    std::atomic<bool> fini = false;
+    // Work still running when the program ends, as a thread drawing with the toolkit would be.
+    std::atomic<bool> fini = false, fini_a_la_fin = false;
     const auto fait = a_cote([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         fini = true;
     });
-    struct Fin {};
-    bool fini_a_la_fin = false;
     fixe_fin([&](int) {
-        fini_a_la_fin = fini;
-        throw Fin{};
+        fini_a_la_fin = fini.load();
+        throw 0;
     });
-    EXPECT_THROW(termine(1), Fin);
+    EXPECT_THROW(termine(1), int);
     fixe_fin({});
     EXPECT_TRUE(fini_a_la_fin);
 }

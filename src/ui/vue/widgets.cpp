@@ -63,7 +63,7 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle) 
     return image;
 }
 
-void VueSurface::paintEvent(QPaintEvent*) {
+void VueSurface::paintEvent(QPaintEvent* e) {
     const qreal echelle = devicePixelRatioF();
     const QSize voulu = size() * echelle;
     if (rendu_.size() != voulu) {
@@ -81,7 +81,14 @@ void VueSurface::paintEvent(QPaintEvent*) {
         if (testAttribute(Qt::WA_OpaquePaintEvent))
             rendu_.reinterpretAsFormat(QImage::Format_RGB32);
     }
-    QPainter(this).drawImage(0, 0, rendu_); // clipped to what needs repainting
+    // Rectangle by rectangle of what needs repainting: under a clip of many rectangles (the
+    // page round its opaque controls) the raster engine would build a span list of height times
+    // rectangles, 400 KiB for a page, rather than copy lines.
+    QPainter g(this);
+    for (const QRect& r : e->region()) {
+        g.setClipRect(r);
+        g.drawImage(0, 0, rendu_);
+    }
 }
 
 LegendeGravee::LegendeGravee(VueSurface& surface, QLabel& legende)

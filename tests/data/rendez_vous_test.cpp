@@ -90,6 +90,10 @@ TEST_F(Rendezvous, LeBalayageTraverseLesBlocsJusquAuBoutDuFichier) {
     for (const int dernier : {1099, 3, 0, 5000})
         EXPECT_EQ(numeros(jour(rv_entete(dernier) + corps)), du_jour) << dernier;
     EXPECT_EQ(numeros(jour(rv_entete(1099) + corps.left(corps.size() - 100))), du_jour);
+    // Under a lagging header, a last record cut short counts, and is read, from its half on.
+    EXPECT_EQ(numeros(jour(rv_entete(3) + corps.left(corps.size() - 200))), du_jour);
+    EXPECT_EQ(numeros(jour(rv_entete(3) + corps.left(corps.size() - 300))),
+              std::vector<int>(du_jour.begin(), du_jour.end() - 1));
     EXPECT_EQ(numeros(jour(rv_entete(1099).left(300))), std::vector<int>{});
 }
 

@@ -190,7 +190,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     };
     auto* picture1 = new QLabel(this);
     ui::place(*picture1, Torva1::Picture1_rect);
-    picture1->setPixmap(ui::icc::reliure(picture1->size()));
+    picture1->setPicture(ui::icc::reliure(picture1->size()));
 
     for (int i = 0; i < Torva1::nb_onglets; ++i) {
         for (const bool gauche : {true, false}) {

@@ -403,26 +403,27 @@ QPixmap feuille(QSize t) {
     });
 }
 
-QPixmap reliure(QSize t) {
-    return garde(QStringLiteral("reliure"), t, [&] {
-        QPixmap p = vierge(t);
-        QPainter g(&p);
-        QLinearGradient lg(0, 0, t.width(), 0);
-        lg.setColorAt(0, papier_ombre.darker(130));
-        lg.setColorAt(0.25, cuir_fonce);
-        lg.setColorAt(0.5, cuir_clair);
-        lg.setColorAt(0.75, cuir_fonce);
-        lg.setColorAt(1, papier_ombre.darker(130));
-        g.fillRect(p.rect(), lg);
-        // Gilt bands at head and tail, and the ribbon marker.
-        g.setPen(QPen(or_vieux, std::max(1, t.width() / 20)));
-        for (const double y : {0.04, 0.06, 0.94, 0.96})
-            g.drawLine(0, int(t.height() * y), t.width(), int(t.height() * y));
-        const int rw = std::max(2, t.width() / 6);
-        g.fillRect(QRect(t.width() / 2 - rw / 2, int(t.height() * 0.6), rw, int(t.height() * 0.4)),
-                   QColor(0x9e, 0x1b, 0x1b));
-        return p;
-    });
+QPicture reliure(QSize t) {
+    QPicture p;
+    QPainter g(&p);
+    QLinearGradient lg(0, 0, t.width(), 0);
+    lg.setColorAt(0, papier_ombre.darker(130));
+    lg.setColorAt(0.25, cuir_fonce);
+    lg.setColorAt(0.5, cuir_clair);
+    lg.setColorAt(0.75, cuir_fonce);
+    lg.setColorAt(1, papier_ombre.darker(130));
+    g.fillRect(QRect(QPoint(), t), lg);
+    // Gilt bands at head and tail, and the ribbon marker.
+    g.setPen(QPen(or_vieux, std::max(1, t.width() / 20)));
+    for (const double y : {0.04, 0.06, 0.94, 0.96})
+        g.drawLine(0, int(t.height() * y), t.width(), int(t.height() * y));
+    const int rw = std::max(2, t.width() / 6);
+    g.fillRect(QRect(t.width() / 2 - rw / 2, int(t.height() * 0.6), rw, int(t.height() * 0.4)),
+               QColor(0x9e, 0x1b, 0x1b));
+    g.end();
+    // The bands' pen reaches past the sides: the picture still lies where its widget does.
+    p.setBoundingRect(QRect(QPoint(), t));
+    return p;
 }
 
 QPixmap p11g(int i, QSize t) {

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPicture>
 #include <QPixmap>
 #include <QRect>
 #include <QRectF>
@@ -27,7 +28,9 @@ QPixmap icone(QSize taille); // the program's own: the bound book, open
 // A page, its gutter towards the spine, drawn straight on the painter: the page surfaces keep
 // what they show, so the picture is kept nowhere else.
 void page(QPainter& g, QSize taille, bool gauche);
-QPixmap reliure(QSize taille); // Picture1, the spine between the pages
+// Picture1, the spine between the pages: a few strokes, replayed at each painting rather than
+// kept as pixels, sharp at any scale.
+QPicture reliure(QSize taille);
 QPixmap feuille(QSize taille); // a sheet laid on the pages: a week's day, the year
 
 QPixmap p11g(int i, QSize taille); // a tab title on the left edge (0 to 5)

@@ -53,7 +53,7 @@ std::unique_ptr<Programme> ouvre_programme() {
     // The accessibility layer asks for the session bus as the first widgets are made, and waits
     // for it; where there is none, the bus library first tries to start one. Asked for here on
     // the side, the answer is ready, or nearly, when the book's widgets need it.
-    auto bus = ui::a_cote([] { QDBusConnection::sessionBus(); });
+    ui::ACote bus([] { QDBusConnection::sessionBus(); });
     QApplication::setApplicationName(QStringLiteral("Agenda"));
     QApplication::setStyle(new ui::StyleDuLivre);
     // The window's own icon, for the task switcher; the larger ones of the menu and the dock come

@@ -4,19 +4,16 @@
 
 #include "book/torva1.h"
 #include "book/vue/torva1_vue.h"
+#include "ui/systeme.h"
 
-#include <future>
 #include <memory>
 
 namespace agenda {
 
 struct Programme {
-    ~Programme() {
-        if (bus_de_session.valid()) bus_de_session.wait();
-    }
-    std::shared_future<void> bus_de_session; // looked up on the side while the book is built
     Torva1 livre;
     Torva1Vue vue{livre};
+    ui::ACote bus_de_session; // looked up on the side while the book is built
 };
 
 // Needs the QApplication made; the book is shown when it returns.

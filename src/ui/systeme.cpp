@@ -113,15 +113,14 @@ void avant_la_fin(std::function<void()> action) {
     actions_finales().push_back(std::move(action));
 }
 
-std::shared_future<void> a_cote(std::function<void()> travail) {
+ACote::ACote(std::function<void()> travail) {
     // The work is let go once done: the wait kept for the end would otherwise keep what it holds
     // (a view's pictures) for the rest of the program.
-    auto fait = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
-                    travail();
-                    travail = nullptr;
-                }).share();
-    avant_la_fin([fait] { fait.wait(); });
-    return fait;
+    fait_ = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
+                travail();
+                travail = nullptr;
+            }).share();
+    avant_la_fin([fait = fait_] { fait.wait(); });
 }
 
 void termine(int code) {

@@ -45,8 +45,26 @@ void fixe_message_fatal(std::function<void(const QString&)> montre);
 // What must be done before any end of the program (closing the files), in the order given.
 void avant_la_fin(std::function<void()> action);
 // Work given to a thread of its own, which every end of the program waits for: it draws or asks
-// through the toolkit, whose globals go with the program. Its owner waits for it before going.
-std::shared_future<void> a_cote(std::function<void()> travail);
+// through the toolkit, whose globals go with the program. Its owner waits for it too, before
+// going or before taking another.
+class ACote {
+public:
+    ACote() = default;
+    explicit ACote(std::function<void()> travail);
+    ACote(const ACote&) = delete;
+    ACote& operator=(ACote&& autre) noexcept {
+        attends();
+        fait_ = std::move(autre.fait_);
+        return *this;
+    }
+    ~ACote() { attends(); }
+    void attends() const {
+        if (fait_.valid()) fait_.wait();
+    }
+
+private:
+    std::shared_future<void> fait_;
+};
 // Ends the program at once with this status, after the actions above.
 [[noreturn]] void termine(int code);
 // Replaces the end (tests): the function must not return, it throws.

@@ -30,7 +30,7 @@ TEST(Ui, CouleursEtCadre) {
 TEST(Ui, LaFinAttendLeTravailACote) {
     // Work still running when the program ends, as a thread drawing with the toolkit would be.
     std::atomic<bool> fini = false, fini_a_la_fin = false;
-    const auto fait = a_cote([&] {
+    const ACote fait([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         fini = true;
     });

@@ -105,8 +105,8 @@ public:
     Couverture(QWidget* parent, const QRegion& visible, const std::array<QRect, 2>& pages)
         : QWidget(parent), parties_(visible.begin(), visible.end()) {
         setGeometry(parent->rect());
-        fait_ = ui::a_cote([fonds = faits_, taille = size(), parties = parties_, pages,
-                            echelle = devicePixelRatioF()] {
+        fait_ = ui::ACote([fonds = faits_, taille = size(), parties = parties_, pages,
+                           echelle = devicePixelRatioF()] {
             fonds->cuir = ui::icc::couverture(taille, parties);
             for (std::size_t i = 0; i < pages.size(); ++i)
                 fonds->pages[i] = ui::VueSurface::image_du_fond(
@@ -116,7 +116,6 @@ public:
                     pages[i].size() * echelle, echelle);
         });
     }
-    ~Couverture() override { fait_.wait(); }
     // The page's background at `r` (in the window's pixels) over `taille` device pixels.
     void page(QPainter& g, const QRect& r, QSize taille, bool gauche) {
         page_sur_le_cuir(g, taille, parties_, fonds().cuir, r, gauche);
@@ -135,12 +134,12 @@ protected:
 private:
     // The thread's pictures, waited for the first time they are needed.
     Fonds& fonds() {
-        fait_.wait();
+        fait_.attends();
         return *faits_;
     }
     std::vector<QRect> parties_;
     const std::shared_ptr<Fonds> faits_ = std::make_shared<Fonds>(); // filled by the thread
-    std::shared_future<void> fait_;
+    ui::ACote fait_; // waited for, if still drawing, when the book goes
 };
 
 } // namespace

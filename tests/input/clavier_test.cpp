@@ -57,17 +57,7 @@ TEST_F(Clavier, SequencesDeTouches) {
     }
 }
 
-TEST_F(Clavier, LesLegendesEtLEditeurSurEcranTactile) {
-    etat.mini_mode = 129;
-    Clavv k;
-    k.Form_Load();
-    EXPECT_EQ(k.ttoc[0] + k.ttoc[1] + k.ttoc[3] + k.ttoc[16] + k.ttoc[13],
-              QStringLiteral("Espace.\"z")); // the design's captions; none on a function key
-    k.ttoc_Click(39);
-    EXPECT_EQ(k.ttoc[1] + k.ttoc[16], QStringLiteral("1Z"));
-    for (const QString& couche : {k.couches[0], k.couches[1], k.couches[2]})
-        EXPECT_EQ(couche.size(), Clavv::touches);
-
+TEST_F(Clavier, LEditeurLOuvreSurEcranTactile) {
     // The SMS number opens the keyboard on the digits, with its question; the answer stays.
     QString appel;
     ui::scenario<Clavv>([&](Clavv& c) {

@@ -113,7 +113,7 @@ public:
                     [&](QPainter& g, QSize s) {
                         page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
                     },
-                    pages[i].size() * echelle, echelle);
+                    pages[i].size() * echelle, echelle, true);
         });
     }
     // The page's background at `r` (in the window's pixels) over `taille` device pixels.

@@ -50,9 +50,9 @@ void VueSurface::montre(const Surface* surface) {
     update(a_repeindre);
 }
 
-QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle) {
+QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, bool opaque) {
     // An image, not a pixmap: a background can then blend its grain straight into it.
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage image(pixels, opaque ? QImage::Format_RGB888 : QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(echelle);
     image.fill(Qt::transparent);
     if (fond) {
@@ -67,19 +67,19 @@ void VueSurface::paintEvent(QPaintEvent* e) {
     const qreal echelle = devicePixelRatioF();
     const QSize voulu = size() * echelle;
     if (rendu_.size() != voulu) {
+        // An opaque surface's every pixel is opaque: its picture, a quarter smaller without
+        // alpha, is copied to the window rather than blended.
+        const bool opaque = testAttribute(Qt::WA_OpaquePaintEvent);
         QImage pret = fond_pret_ ? std::exchange(fond_pret_, nullptr)() : QImage();
-        rendu_ = pret.size() == voulu && pret.devicePixelRatio() == echelle
+        rendu_ = pret.size() == voulu && pret.devicePixelRatio() == echelle &&
+                         pret.hasAlphaChannel() != opaque
                      ? std::move(pret)
-                     : image_du_fond(fond_, voulu, echelle);
+                     : image_du_fond(fond_, voulu, echelle, opaque);
         if (surface_) {
             QPainter g(&rendu_);
             g.scale(px_par_twip(), px_par_twip());
             dessine_surface(g, *surface_);
         }
-        // An opaque surface's every pixel is opaque, so its picture is copied to the window
-        // rather than blended: the same bytes read as pixels without alpha.
-        if (testAttribute(Qt::WA_OpaquePaintEvent))
-            rendu_.reinterpretAsFormat(QImage::Format_RGB32);
     }
     // Rectangle by rectangle of what needs repainting: under a clip of many rectangles (the
     // page round its opaque controls) the raster engine would build a span list of height times
@@ -90,6 +90,23 @@ void VueSurface::paintEvent(QPaintEvent* e) {
         g.drawImage(0, 0, rendu_);
     }
 }
+
+namespace {
+
+// The last point at or before `p` (in logical pixels, not negative) from which a picture is
+// shifted from the window by whole device pixels, by sixteen at a time: its glyphs and blends
+// then fall on the same pixels and the same vector lanes as the window's own. The window's corner
+// when no small step does.
+QPoint origine_entiere(QPoint p, qreal echelle) {
+    constexpr int voie = 16; // device pixels: 64 bytes, the widest vector of a blend
+    for (int pas = 1; pas <= 64; ++pas)
+        if (const qreal d = pas * echelle;
+            std::abs(d - std::round(d)) < 1e-6 && std::lround(d) % voie == 0)
+            return {p.x() - p.x() % pas, p.y() - p.y() % pas};
+    return {};
+}
+
+} // namespace
 
 LegendeGravee::LegendeGravee(VueSurface& surface, QLabel& legende)
     : surface_(surface), legende_(legende) {}
@@ -104,21 +121,24 @@ void LegendeGravee::montre(const QString& texte) {
     // The same picture given again would still be painted again.
     if (!nouvelle && legende_.pixmap().cacheKey() == image->second.cacheKey()) return;
     if (nouvelle) {
-        // The surface, then the text over it, at the caption's place in its window: the glyphs'
-        // outlines fall on the very pixels of the caption's own painting.
+        // The surface, then the text over it, where the caption's device pixels have the same
+        // fraction as in its window: the glyphs' outlines fall on the very pixels of the
+        // caption's own painting.
         const QPoint place = legende_.mapTo(legende_.window(), QPoint());
-        const QRect ici(place, legende_.size());
+        const QRect ici(place - origine_entiere(place, echelle), legende_.size());
         QPixmap fenetre(QSize(ici.right() + 1, ici.bottom() + 1) * echelle);
         fenetre.setDevicePixelRatio(echelle);
-        surface_.render(&fenetre, place, QRegion(legende_.geometry()),
+        surface_.render(&fenetre, ici.topLeft(), QRegion(legende_.geometry()),
                         QWidget::DrawWindowBackground);
         QLabel modele(texte);
         modele.setFont(legende_.font());
         modele.setPalette(legende_.palette());
         modele.setAlignment(legende_.alignment());
         modele.resize(legende_.size());
-        modele.render(&fenetre, place, QRegion(), {});
-        image->second = fenetre.copy(QRect(ici.topLeft() * echelle, ici.size() * echelle));
+        modele.render(&fenetre, ici.topLeft(), QRegion(), {});
+        image->second = ici.topLeft().isNull()
+                            ? fenetre
+                            : fenetre.copy(QRect(ici.topLeft() * echelle, ici.size() * echelle));
         image->second.setDevicePixelRatio(echelle);
     }
     legende_.setPixmap(image->second);

@@ -28,8 +28,9 @@ public:
     using Fond = std::function<void(QPainter&, QSize)>;
     VueSurface(QWidget* parent, Fond fond);
     // The background alone, as the surface makes it at `pixels` device pixels: for a background
-    // made beforehand, on another thread say.
-    static QImage image_du_fond(const Fond& fond, QSize pixels, qreal echelle);
+    // made beforehand, on another thread say. An opaque one, which covers every pixel, is kept
+    // without alpha, in three bytes a pixel.
+    static QImage image_du_fond(const Fond& fond, QSize pixels, qreal echelle, bool opaque = false);
     // The background the surface takes, once, in place of drawing its own: what `pret` gives,
     // if it has the size of the surface's device pixels then.
     void fond_pret(std::function<QImage()> pret) { fond_pret_ = std::move(pret); }

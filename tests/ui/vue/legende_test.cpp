@@ -76,22 +76,28 @@ TEST(VueSurface, UnFondFaitDAvanceDonneLesPixelsDuSien) {
     propre.surface.montre(&trait);
     const QImage attendu = propre.vue();
     const QSize pixels = propre.surface.size() * propre.surface.devicePixelRatioF();
+    const qreal echelle = propre.surface.devicePixelRatioF();
     QImage rouge(pixels, QImage::Format_ARGB32_Premultiplied);
     rouge.fill(Qt::red);
-    const qreal echelle = propre.surface.devicePixelRatioF();
-    // The surface's own background made elsewhere, a picture of another size, one it takes.
-    for (const auto& [pret, pris] :
-         {std::pair{VueSurface::image_du_fond(degrade, pixels, echelle), false},
-          {rouge.scaled(pixels / 2), false},
-          {rouge, true}}) {
-        Page page(24);
-        int appels = 0;
-        page.surface.fond_pret([&, pret = pret] { return ++appels, pret; });
-        page.surface.montre(&trait);
-        EXPECT_EQ(page.vue() != attendu, pris);
-        page.surface.montre(nullptr); // given once: the next drawing has the surface's own
-        page.surface.montre(&trait);
-        EXPECT_EQ(page.vue(), attendu);
-        EXPECT_EQ(appels, 1);
+    // An opaque surface keeps its picture without alpha, and shows the same pixels.
+    for (const bool opaque : {false, true}) {
+        // The surface's own background made elsewhere, a picture of another size or with alpha
+        // where none is wanted, one it takes.
+        for (const auto& [pret, pris] :
+             {std::pair{VueSurface::image_du_fond(degrade, pixels, echelle, opaque), false},
+              {rouge.scaled(pixels / 2), false},
+              {rouge, !opaque},
+              {rouge.convertToFormat(QImage::Format_RGB888), opaque}}) {
+            Page page(24);
+            page.surface.setAttribute(Qt::WA_OpaquePaintEvent, opaque);
+            int appels = 0;
+            page.surface.fond_pret([&, pret = pret] { return ++appels, pret; });
+            page.surface.montre(&trait);
+            EXPECT_EQ(page.vue() != attendu, pris) << opaque;
+            page.surface.montre(nullptr); // given once: the next drawing has the surface's own
+            page.surface.montre(&trait);
+            EXPECT_EQ(page.vue(), attendu) << opaque;
+            EXPECT_EQ(appels, 1);
+        }
     }
 }

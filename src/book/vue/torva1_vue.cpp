@@ -296,7 +296,9 @@ void Torva1Vue::construit_semaine() {
     for (int k = 0; k < Torva1::nb_bandes; ++k) {
         QWidget* page = Torva1::bande_a_gauche(k) ? pageg_ : paged_;
         auto* bande = new ui::VueSurface(
-            page, [](QPainter& g, QSize s) { g.drawPixmap(0, 0, ui::icc::feuille(s)); });
+            page, [t = ui::px(Torva1::pages_rect(k)).size()](QPainter& g, QSize s) {
+                g.drawPixmap(QRect(QPoint(), s), ui::icc::feuille(t));
+            });
         ui::place(*bande, Torva1::pages_rect(k));
         bande->setCursor(Qt::PointingHandCursor);
         bande->setToolTip(QStringLiteral("Ouvrir ce jour"));

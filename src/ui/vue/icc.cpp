@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHash>
 #include <QImage>
 #include <QLinearGradient>
@@ -27,19 +28,29 @@ const QColor cuir_clair(0x7a, 0x22, 0x2a);
 const QColor cuir_fonce(0x3b, 0x0c, 0x12);
 const QColor or_vieux(0xc9, 0xa4, 0x4c);
 
+// The screens' device pixels to a logical one: the pictures are drawn at the finest screen's.
+qreal finesse() {
+    return qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+}
+
 // The pictures are the team's, not records: each is drawn once for its role and size, and kept
 // for the life of the program (never freed, as a picture must not outlive the application).
 template <class Dessin>
 QPixmap garde(const QString& role, QSize t, Dessin&& dessin) {
     static auto* pictures = new QHash<QString, QPixmap>;
-    const QString cle = role + QStringLiteral("@%1x%2").arg(t.width()).arg(t.height());
+    const QString cle =
+        role + QStringLiteral("@%1x%2@%3").arg(t.width()).arg(t.height()).arg(finesse());
     auto it = pictures->find(cle);
     if (it == pictures->end()) it = pictures->insert(cle, dessin());
     return *it;
 }
 
+// A transparent picture of `t` logical pixels, in the screen's device pixels: drawn in logical
+// coordinates, it is as sharp as the screen.
 QPixmap vierge(QSize t) {
-    QPixmap p(t.expandedTo(QSize(1, 1)));
+    const qreal r = finesse();
+    QPixmap p(t.expandedTo(QSize(1, 1)) * r);
+    p.setDevicePixelRatio(r);
     p.fill(Qt::transparent);
     return p;
 }

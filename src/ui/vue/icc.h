@@ -1,6 +1,7 @@
 #pragma once
 // The picture store: the program's own pictures, drawn in code at the size asked, by their
-// roles in the windows.
+// roles in the windows. A size is in logical pixels; the pictures made by the store carry the
+// finest screen's device pixels for it.
 
 #include <QColor>
 #include <QImage>

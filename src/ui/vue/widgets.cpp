@@ -208,8 +208,8 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* e) override {
-        const QPoint p = e->position().toPoint();
         const QImage image = pixmap().toImage();
+        const QPoint p = (e->position() * image.devicePixelRatio()).toPoint();
         if (image.valid(p)) clic_(bbggrr(image.pixelColor(p)));
     }
 

@@ -169,12 +169,25 @@ QRgb sur(QRgb pixel, QRgb point) {
     return point + (QRgb(t) | QRgb(t >> 24));
 }
 
+// The bytes of a pixel whose grain is blended by hand: ARGB32 premultiplied, or RGB888, opaque;
+// none for the formats the painter blends.
+int octets_du_pixel(const QImage& image) {
+    switch (image.format()) {
+    case QImage::Format_ARGB32_Premultiplied:
+        return 4;
+    case QImage::Format_RGB888:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 void grain(QPainter& g, QSize t, int densite, QColor c) {
     // On a picture of the grain's size, at its pixels, the points go straight into the pixels.
     auto* image = dynamic_cast<QImage*>(g.device());
-    if (image && image->format() == QImage::Format_ARGB32_Premultiplied && image->size() == t &&
+    if (image && octets_du_pixel(*image) != 0 && image->size() == t &&
         g.deviceTransform().type() == QTransform::TxNone && !g.hasClipping() && g.opacity() == 1 &&
         g.compositionMode() == QPainter::CompositionMode_SourceOver) {
         std::vector<Partie> entiere{{image, QPoint(0, 0)}};
@@ -196,13 +209,14 @@ void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor
     struct Zone {
         std::uint8_t* pixels; // the part's first pixel
         qsizetype ligne;
+        int octets;     // a pixel's: 4 premultiplied, or 3 opaque
         int x0, x1, y0; // its columns [x0, x1) and first row in the whole
     };
     std::vector<Zone> zones;
     zones.reserve(parties.size());
     for (const Partie& p : parties)
-        zones.push_back({p.image->bits(), p.image->bytesPerLine(), p.origine.x(),
-                         p.origine.x() + p.image->width(), p.origine.y()});
+        zones.push_back({p.image->bits(), p.image->bytesPerLine(), octets_du_pixel(*p.image),
+                         p.origine.x(), p.origine.x() + p.image->width(), p.origine.y()});
     // A bit for each pixel of the whole that a part covers: most of the cover's points fall
     // outside its parts, and each is turned away at one look. A single part that is the whole,
     // a page, needs neither this nor the rows' parts.
@@ -239,9 +253,18 @@ void grain_dans(std::vector<Partie>& parties, QSize entiere, int densite, QColor
         for (const QPoint& p : grain.d_alpha(alpha))
             for (const Zone* z : une_seule ? toute : par_ligne[std::size_t(p.y())]) {
                 if (p.x() < z->x0 || p.x() >= z->x1) continue;
-                auto* pixel = reinterpret_cast<QRgb*>(z->pixels + (p.y() - z->y0) * z->ligne) +
-                              (p.x() - z->x0);
-                *pixel = sur(*pixel, point);
+                std::uint8_t* pixel =
+                    z->pixels + (p.y() - z->y0) * z->ligne + (p.x() - z->x0) * z->octets;
+                if (z->octets == 4) {
+                    auto* argb = reinterpret_cast<QRgb*>(pixel);
+                    *argb = sur(*argb, point);
+                } else {
+                    // Red, green, blue in that order, under an alpha that stays whole.
+                    const QRgb rgb = sur(qRgb(pixel[0], pixel[1], pixel[2]), point);
+                    pixel[0] = std::uint8_t(qRed(rgb));
+                    pixel[1] = std::uint8_t(qGreen(rgb));
+                    pixel[2] = std::uint8_t(qBlue(rgb));
+                }
             }
     }
 }

@@ -83,10 +83,11 @@ QPixmap interrupteur(bool oui, QSize taille);
 
 // A grain so that leather and paper do not look like plastic, the same at every drawing: points
 // of the colour at alphas from 10 to 39, one per `densite` pixels. On an ARGB32 premultiplied
-// image of the grain's size, drawn at its pixels, the points are blended as `grain_dans` does.
+// or RGB888 image of the grain's size, drawn at its pixels, the points are blended as
+// `grain_dans` does.
 void grain(QPainter& g, QSize taille, int densite, QColor c);
-// The same grain blended straight into the pixels of ARGB32 premultiplied images, as the
-// painter's source over blends it: for the cover's 126,000 points and the pages', where the
+// The same grain blended straight into the pixels of ARGB32 premultiplied or RGB888 images, as
+// the painter's source over blends it: for the cover's 126,000 points and the pages', where the
 // painter's path per point was a third of the start-up. The grain is that of a whole of size
 // `entiere`; each image is the part of the whole at its origin.
 struct Partie {

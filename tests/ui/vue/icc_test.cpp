@@ -26,36 +26,41 @@ TEST(Grain, LesNombresDeQRandomGenerator) {
 }
 
 TEST(Grain, LesPixelsDuPeintre) {
-    for (const QColor couleur : {QColor(Qt::black), QColor(0x80, 0x60, 0x30)}) {
-        for (const QSize taille : {QSize(3, 2), QSize(37, 23), QSize(1024, 738)}) {
-            QImage fond(taille, QImage::Format_ARGB32_Premultiplied);
-            fond.fill(Qt::transparent);
-            {
-                // Every channel value and some transparency under the points.
-                QPainter g(&fond);
-                QLinearGradient lg(0, 0, taille.width(), taille.height());
-                lg.setColorAt(0, QColor(255, 0, 128, 255));
-                lg.setColorAt(0.5, QColor(12, 250, 3, 200));
-                lg.setColorAt(1, QColor(0, 40, 255, 90));
-                g.fillRect(fond.rect(), lg);
+    // With alpha, and opaque in three bytes as a page's picture.
+    for (const auto format : {QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB888}) {
+        for (const QColor couleur : {QColor(Qt::black), QColor(0x80, 0x60, 0x30)}) {
+            for (const QSize taille : {QSize(3, 2), QSize(37, 23), QSize(1024, 738)}) {
+                QImage fond(taille, format);
+                fond.fill(Qt::transparent);
+                {
+                    // Every channel value and, where there is alpha, some transparency.
+                    QPainter g(&fond);
+                    QLinearGradient lg(0, 0, taille.width(), taille.height());
+                    lg.setColorAt(0, QColor(255, 0, 128, 255));
+                    lg.setColorAt(0.5, QColor(12, 250, 3, 200));
+                    lg.setColorAt(1, QColor(0, 40, 255, 90));
+                    g.fillRect(fond.rect(), lg);
+                }
+                // On a pixmap the painter draws each point; on an image they are blended by
+                // hand. The pages draw it anti-aliased.
+                QPixmap peint = QPixmap::fromImage(fond);
+                {
+                    QPainter g(&peint);
+                    g.setRenderHint(QPainter::Antialiasing);
+                    icc::grain(g, taille, 6, couleur);
+                }
+                QImage a_la_main = fond;
+                {
+                    QPainter g(&a_la_main);
+                    icc::grain(g, taille, 6, couleur);
+                }
+                const QString cas = couleur.name() + QStringLiteral(" %1x%2 %3")
+                                                         .arg(taille.width())
+                                                         .arg(taille.height())
+                                                         .arg(format);
+                EXPECT_EQ(peint.toImage().convertToFormat(format), a_la_main) << cas.toStdString();
+                EXPECT_NE(a_la_main, fond) << cas.toStdString();
             }
-            // On a pixmap the painter draws each point; on an image they are blended by hand.
-            // The pages draw it anti-aliased.
-            QPixmap peint = QPixmap::fromImage(fond);
-            {
-                QPainter g(&peint);
-                g.setRenderHint(QPainter::Antialiasing);
-                icc::grain(g, taille, 6, couleur);
-            }
-            QImage a_la_main = fond;
-            {
-                QPainter g(&a_la_main);
-                icc::grain(g, taille, 6, couleur);
-            }
-            const QString cas =
-                couleur.name() + QStringLiteral(" %1x%2").arg(taille.width()).arg(taille.height());
-            EXPECT_EQ(peint.toImage(), a_la_main) << cas.toStdString();
-            EXPECT_NE(a_la_main, fond) << cas.toStdString();
         }
     }
 }

@@ -295,10 +295,7 @@ void Torva1Vue::imprime() {
 void Torva1Vue::construit_semaine() {
     for (int k = 0; k < Torva1::nb_bandes; ++k) {
         QWidget* page = Torva1::bande_a_gauche(k) ? pageg_ : paged_;
-        auto* bande = new ui::VueSurface(
-            page, [t = ui::px(Torva1::pages_rect(k)).size()](QPainter& g, QSize s) {
-                g.drawPixmap(QRect(QPoint(), s), ui::icc::feuille(t));
-            });
+        auto* bande = new ui::VueSurface(page, ui::VueSurface::fond_image(&ui::icc::feuille));
         ui::place(*bande, Torva1::pages_rect(k));
         bande->setCursor(Qt::PointingHandCursor);
         bande->setToolTip(QStringLiteral("Ouvrir ce jour"));

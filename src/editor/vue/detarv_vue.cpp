@@ -144,9 +144,8 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
             [this] { appelle([&] { l_.Label7_LostFocus(); }); });
     label9_ = label(Detarv::Label9_rect, {}, 8);
 
-    picture2_ = new ui::VueSurface(this, [this](QPainter& g, QSize s) {
-        g.drawPixmap(QRect(QPoint(), s), ui::icc::horloge(l_.face, picture2_->size()));
-    });
+    picture2_ = new ui::VueSurface(
+        this, ui::VueSurface::fond_image([this](QSize t) { return ui::icc::horloge(l_.face, t); }));
     ui::place(*picture2_, Detarv::Picture2_rect);
     // The cells are flat buttons over the face's numbers and dots: invisible until pressed, and
     // without a style sheet, whose polish of 24 buttons cost a fifth of the opening.

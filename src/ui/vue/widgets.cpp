@@ -50,6 +50,15 @@ void VueSurface::montre(const Surface* surface) {
     update(a_repeindre);
 }
 
+VueSurface::Fond VueSurface::fond_image(std::function<QPixmap(QSize)> image) {
+    return [image = std::move(image)](QPainter& g, QSize pixels) {
+        // The painter draws in device pixels; the logical size they stand for, at a scale of at
+        // least one, is their number over the scale, rounded.
+        const QSize logique = (QSizeF(pixels) / g.device()->devicePixelRatioF()).toSize();
+        g.drawPixmap(QRect(QPoint(), pixels), image(logique));
+    };
+}
+
 QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, bool opaque) {
     // An image, not a pixmap: a background can then blend its grain straight into it.
     QImage image(pixels, opaque ? QImage::Format_RGB888 : QImage::Format_ARGB32_Premultiplied);
@@ -136,9 +145,7 @@ void LegendeGravee::montre(const QString& texte) {
         modele.setAlignment(legende_.alignment());
         modele.resize(legende_.size());
         modele.render(&fenetre, ici.topLeft(), QRegion(), {});
-        image->second = ici.topLeft().isNull()
-                            ? fenetre
-                            : fenetre.copy(QRect(ici.topLeft() * echelle, ici.size() * echelle));
+        image->second = fenetre.copy(QRect(ici.topLeft() * echelle, ici.size() * echelle));
         image->second.setDevicePixelRatio(echelle);
     }
     legende_.setPixmap(image->second);

@@ -27,6 +27,9 @@ public:
     // Draws the background at a size in device pixels.
     using Fond = std::function<void(QPainter&, QSize)>;
     VueSurface(QWidget* parent, Fond fond);
+    // A background that is a picture of the store, asked at the surface's logical size and laid
+    // on its device pixels one to one.
+    static Fond fond_image(std::function<QPixmap(QSize)> image);
     // The background alone, as the surface makes it at `pixels` device pixels: for a background
     // made beforehand, on another thread say. An opaque one, which covers every pixel, is kept
     // without alpha, in three bytes a pixel.

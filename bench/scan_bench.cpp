@@ -57,8 +57,9 @@ void BM_charge_journee(benchmark::State& state) {
     etat.num_collab = collab_de(state);
     ouvre_rv();
     etat.date_courante = jour;
+    std::vector<RecRv> records; // as the book keeps it from one day to the next
     for (auto _ : state) {
-        charge_journee();
+        charge_journee(records);
         if (etat.nb_jour() != state.range(1)) state.SkipWithError("wrong day count");
     }
     state.SetBytesProcessed(state.iterations() * state.range(0) * RecRv::longueur);

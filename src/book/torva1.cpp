@@ -24,7 +24,6 @@
 
 #include <climits>
 #include <cmath>
-#include <optional>
 
 namespace agenda {
 
@@ -387,16 +386,15 @@ void Torva1::affiche_rv() {
     num_rv_label.clear();
     // The labels take their records from the scan's own bytes. A failed scan leaves the list as
     // it was, and its labels read their records again.
-    std::optional<std::vector<RecRv>> records;
-    etape([&] { records = charge_journee(); });
+    const bool scanne = etape([&] { charge_journee(records_du_jour_); });
     num_rv_label.assign(std::size_t(etat.nb_jour()) + 1, 0);
     for (int i = 1; i <= etat.nb_jour(); ++i)
         etape([&] {
             using namespace slot_page;
             const QString& e = etat.liste_jour[i - 1];
             const std::int32_t numero = entree_jour::numero(e);
-            const RecRv rec = records ? records->at(std::size_t(i) - 1)
-                                      : lit_record<RecRv>(canal::rv, std::int64_t(numero) + 1);
+            const RecRv rec = scanne ? records_du_jour_.at(std::size_t(i) - 1)
+                                     : lit_record<RecRv>(canal::rv, std::int64_t(numero) + 1);
             const bool a_gauche =
                 val(mid1(rec.lit(RecRv::cle_rv), 8, 2)) < table_pages[base_gauche + heure_fin];
             echelle_page = a_gauche ? echelle_g : echelle_d;

@@ -3,6 +3,7 @@
 // Handlers keep the names of the window's controls and events.
 
 #include "data/etat.h"
+#include "data/formats.h"
 #include "ui/geometrie.h"
 #include "ui/modale.h"
 #include "ui/surface.h"
@@ -212,6 +213,9 @@ private:
     // The colour of a sample from the parameter store, where it holds one.
     static void lit_couleur(const QString& cle, std::int32_t& couleur);
     void change_couleur(std::int32_t& couleur, const QString& cle);
+
+    // The records of the day's labels, from the last scan's bytes; kept for its room only.
+    std::vector<RecRv> records_du_jour_;
 };
 
 } // namespace agenda

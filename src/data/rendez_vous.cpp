@@ -61,11 +61,26 @@ struct DebutCle {
         const QByteArray b = octets::vers_cp1252(cadre(texte, int(N)));
         std::memcpy(octets.data(), b.constData(), N);
     }
+    explicit DebutCle(const std::array<std::uint8_t, N>& o) : octets(o) {}
     bool ouvre(std::span<const std::uint8_t> rec) const {
         return std::memcmp(rec.data(), octets.data(), N) == 0;
     }
     std::array<std::uint8_t, N> octets{};
 };
+
+// The day pattern "yymmdd" as a key's bytes, from the date's parts taken at once: it is made at
+// every load, where a formatted text and its conversion cost a tenth of a small file's scan.
+std::array<std::uint8_t, 6> octets_du_jour(Date d) {
+    int annee = 0, mois = 0, jour = 0;
+    ui::jour_de(d).getDate(&annee, &mois, &jour);
+    std::array<std::uint8_t, 6> o{};
+    auto c = o.begin();
+    for (const int n : {(annee % 100 + 100) % 100, mois, jour}) {
+        *c++ = std::uint8_t('0' + n / 10);
+        *c++ = std::uint8_t('0' + n % 10);
+    }
+    return o;
+}
 
 } // namespace
 
@@ -101,7 +116,8 @@ std::int32_t repare_entete(FichierRecords& f, RecRv entete) {
 }
 
 QString motif_jour(Date d) {
-    return ui::format_date(d, u"yymmdd");
+    const auto o = octets_du_jour(d);
+    return QString::fromLatin1(reinterpret_cast<const char*>(o.data()), qsizetype(o.size()));
 }
 
 QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
@@ -119,36 +135,36 @@ std::int32_t code_jour(Date jour) {
 void parcourt_jour(FichierRecords& f, Date jour,
                    const std::function<std::int32_t(const RecRv&)>& compte,
                    const std::function<bool(std::int32_t, std::span<const std::uint8_t>)>& rv) {
-    const DebutCle<6> motif(motif_jour(jour));
+    const DebutCle<6> motif(octets_du_jour(jour));
     parcourt_depuis_entete<RecRv>(f, compte,
                                   [&](std::int32_t i, std::span<const std::uint8_t> rec) {
                                       return !motif.ouvre(rec) || rv(i, rec);
                                   });
 }
 
-Journee scan_journee(FichierRecords& f, Date jour) {
+void scan_journee(FichierRecords& f, Date jour, QStringList& liste, std::vector<RecRv>& records) {
     // The count is taken wide: a file past 32,767 records is scanned whole.
-    Journee j;
+    liste.clear();
+    records.clear();
     // Room for a full day at once: growing one entry at a time costs a load as much as its
     // reads on a small file.
     constexpr int jour_plein = 16;
-    j.liste.reserve(jour_plein);
-    j.records.reserve(jour_plein);
+    liste.reserve(jour_plein);
+    records.reserve(jour_plein);
     parcourt_jour(
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {
-            j.liste.append(entree_du_jour(i, rec));
+            liste.append(entree_du_jour(i, rec));
             // Copied where it stands: a record made apart and moved in is copied twice.
-            copie_dans(j.records.emplace_back(), rec);
+            copie_dans(records.emplace_back(), rec);
             return true;
         });
-    return j;
 }
 
 std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
     std::vector<DebutCle<6>> jours;
     for (int k = 0; k < 7; ++k)
-        jours.emplace_back(motif_jour(lundi + k));
+        jours.emplace_back(octets_du_jour(lundi + k));
     // Most records are of other months: their first four bytes, "yymm", rule them out at once.
     // A week spans one month or two.
     const auto mois = [](std::span<const std::uint8_t> cle) {
@@ -174,10 +190,10 @@ std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi) {
     return listes;
 }
 
-std::vector<RecRv> charge_journee() {
-    Journee j = scan_journee(canal_fichier(canal::rv), etat.date_courante);
-    etat.liste_jour = std::move(j.liste);
-    return std::move(j.records);
+void charge_journee(std::vector<RecRv>& records) {
+    QStringList liste;
+    scan_journee(canal_fichier(canal::rv), etat.date_courante, liste, records);
+    etat.liste_jour = std::move(liste);
 }
 
 std::int32_t cherche_note(const QString& cle) {

@@ -35,17 +35,14 @@ QString cle_rendez_vous(Date jour, const QString& heure, const QString& minute,
 // The day of the month plus 31 times the month.
 std::int32_t code_jour(Date jour);
 
-// One day of a file: its list entries and the records they were made from, in the same order.
-struct Journee {
-    QStringList liste;
-    std::vector<RecRv> records;
-};
-// The day's scan of any file. Each entry is the first 19 characters of the key, the number in
-// "000000", ":", the frame flag, "xxxxxxxxx", ":" and the colour.
-Journee scan_journee(FichierRecords& f, Date jour);
-// Fills liste_jour for date_courante from the book's file (channel 15) and gives the records of
-// its entries. A scan that fails leaves liste_jour as it was.
-std::vector<RecRv> charge_journee();
+// The day's scan of any file: `liste` its entries, `records` the records they were made from, in
+// the same order. Both are emptied first; a vector kept from one day to the next keeps its room.
+// Each entry is the first 19 characters of the key, the number in "000000", ":", the frame flag,
+// "xxxxxxxxx", ":" and the colour.
+void scan_journee(FichierRecords& f, Date jour, QStringList& liste, std::vector<RecRv>& records);
+// Fills liste_jour for date_courante from the book's file (channel 15), and `records` with the
+// records of its entries. A scan that fails leaves liste_jour as it was.
+void charge_journee(std::vector<RecRv>& records);
 // The day lists of the seven days from `lundi`, in one pass over the file.
 std::array<QStringList, 7> scan_semaine(FichierRecords& f, Date lundi);
 // The day's records among the first of a file, as many as `compte(header)` says, in record

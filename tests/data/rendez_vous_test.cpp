@@ -27,7 +27,7 @@ protected:
     QStringList jour(const QByteArray& octets) {
         ecrit(fichier, octets);
         ouvre_rv();
-        records = charge_journee();
+        charge_journee(records);
         return etat.liste_jour;
     }
     std::vector<RecRv> records; // the day's records, as the scan gives them to the labels

@@ -60,6 +60,8 @@ void au_premier_plan() {
 VueModale::VueModale(FenetreModale& logique, int largeur, int hauteur)
     : QDialog(dessus(), Qt::Dialog | Qt::FramelessWindowHint), Vue(logique), modale_(logique) {
     setFixedSize(px(largeur), px(hauteur));
+    // Its paper covers it whole: the toolkit's own ground under it would be painted for nothing.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     modale_.sur_fermeture = [this] { accept(); };
 }
 

@@ -33,6 +33,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
+#include <vector>
 
 using namespace agenda;
 
@@ -89,11 +90,13 @@ void une_entree(const std::uint8_t* octets, std::size_t n) {
     ecrit_fichier("tf_r0000.wdo", octets, n);
     ecrit_fichier("tf_a0000.wdo", octets, n);
     ouvre_rv();
-    charge_journee();
+    std::vector<RecRv> records;
+    charge_journee(records);
     ouvre_notes();
     cherche_note(QStringLiteral("JO:040303"));
     alloue_numero(canal_fichier(canal::rv));
-    charge_journee();
+    charge_journee(records); // into the room the first load left
+    if (records.size() != std::size_t(etat.nb_jour())) std::abort();
     scan_semaine(canal_fichier(canal::rv), etat.date_courante - 2);
     // The week's note read and written over the same bytes.
     etat.cle_note = QStringLiteral("SE:040301");

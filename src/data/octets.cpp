@@ -42,9 +42,17 @@ void pose_i16(Tampon buf, int offset, std::int16_t valeur) {
     buf[offset + 1] = static_cast<std::uint8_t>(v >> 8);
 }
 
+namespace {
+
+// Inlined into the loops that decode whole texts: they run on every text a scan reads.
+constexpr char16_t point_cp1252(std::uint8_t octet) {
+    return octet >= 0x80 && octet <= 0x9F ? table_80_9f[octet - 0x80] : char16_t(octet);
+}
+
+} // namespace
+
 QChar car_cp1252(std::uint8_t octet) {
-    if (octet >= 0x80 && octet <= 0x9F) return QChar(table_80_9f[octet - 0x80]);
-    return QChar(char16_t(octet));
+    return QChar(point_cp1252(octet));
 }
 
 std::uint8_t octet_cp1252(QChar c) {
@@ -58,7 +66,7 @@ std::uint8_t octet_cp1252(QChar c) {
 
 QChar* decode_cp1252(TamponLu octets, QChar* dans) {
     for (const std::uint8_t o : octets)
-        *dans++ = car_cp1252(o);
+        *dans++ = QChar(point_cp1252(o));
     return dans;
 }
 

@@ -143,7 +143,6 @@ void parcourt_jour(FichierRecords& f, Date jour,
 }
 
 void scan_journee(FichierRecords& f, Date jour, QStringList& liste, std::vector<RecRv>& records) {
-    // The count is taken wide: a file past 32,767 records is scanned whole.
     liste.clear();
     records.clear();
     // Room for a full day at once: growing one entry at a time costs a load as much as its
@@ -151,6 +150,7 @@ void scan_journee(FichierRecords& f, Date jour, QStringList& liste, std::vector<
     constexpr int jour_plein = 16;
     liste.reserve(jour_plein);
     records.reserve(jour_plein);
+    // The count is taken wide: a file past 32,767 records is scanned whole.
     parcourt_jour(
         f, jour, [&](const RecRv& entete) { return repare_entete(f, entete); },
         [&](std::int32_t i, std::span<const std::uint8_t> rec) {

@@ -80,7 +80,7 @@ CclifaVue::CclifaVue(Cclifa& l) : VueModale(l, Cclifa::largeur, Cclifa::hauteur)
         appelle([&] { l_.picture4_Click(); });
     })->setToolTip(QStringLiteral("Valider ce nom"));
 
-    ui::pose_cadre_large(*this);
+    pose_cadre(ui::coin_large);
     ui::centre_fenetre_haut(*this);
     montre();
     text_[0]->setFocus();

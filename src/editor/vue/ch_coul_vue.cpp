@@ -14,7 +14,7 @@ ChCoulVue::ChCoulVue(ChCoul& l) : VueModale(l, ChCoul::largeur, ChCoul::hauteur)
         ->setAlignment(Qt::AlignCenter);
     ui::palette(*this, ChCoul::Picture1_rect,
                 [this, &l](std::int32_t c) { appelle([&] { l.Picture1_MouseDown(c); }); });
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     ui::centre_fenetre_haut(*this);
 }
 

@@ -202,7 +202,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     // Across the middle of the screen, at the top.
     ui::centre_fenetre(*this);
     move(x(), 0);
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     text1_->setFocus();
 }
 

@@ -33,7 +33,7 @@ SaisnoteVue::SaisnoteVue(Saisnote& l) : VueModale(l, Saisnote::largeur, Saisnote
         apres_le_clic([this] { l_.bt_annul_Click(); });
     })->setToolTip(QStringLiteral("Annuler la note"));
 
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     ui::place_sur_le_livre(*this, l.left, l.top);
     montre();
     text1_->setFocus();

@@ -68,7 +68,7 @@ ClavvVue::ClavvVue(Clavv& l) : VueModale(l, Clavv::largeur, Clavv::hauteur), l_(
         connect(t, &QToolButton::clicked, this, [this, i] { appelle([&] { l_.ttoc_Click(i); }); });
         ttoc_[std::size_t(i)] = t;
     }
-    ui::pose_cadre_large(*this);
+    pose_cadre(ui::coin_large);
     ui::centre_fenetre(*this);
     montre();
     text1_->setFocus();

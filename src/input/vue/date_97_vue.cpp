@@ -34,7 +34,7 @@ Date97Vue::Date97Vue(Date97& l) : VueModale(l, l.largeur, l.hauteur), l_(l) {
     });
     ui::bouton_image(*this, l.btc2_rect, true, [this] { appelle([this] { l_.btc_Click(2); }); });
     ui::bouton_image(*this, l.btc3_rect, false, [this] { appelle([this] { l_.btc_Click(3); }); });
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     ui::centre_fenetre(*this);
     montre();
     monthview1_->setFocus();

@@ -35,7 +35,7 @@ Mini97Vue::Mini97Vue(Mini97& l) : VueModale(l, l.largeur, l.hauteur), l_(l) {
     ui::bouton_image(*this, l.btc2_rect, true, [this] { appelle([this] { l_.btc_Click(2); }); });
     ui::bouton_image(*this, l.btc3_rect, false, [this] { appelle([this] { l_.btc_Click(3); }); });
     ui::centre_fenetre(*this);
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     montre();
     if (l.Text1_visible) text1_->setFocus();
 }

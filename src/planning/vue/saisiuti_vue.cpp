@@ -42,7 +42,7 @@ SaisiutiVue::SaisiutiVue(Saisiuti& l) : VueModale(l, Saisiuti::largeur, Saisiuti
     connect(annuler, &QPushButton::clicked, this,
             [this] { appelle([&] { l_.bt_annull_Click(); }); });
 
-    ui::pose_cadre_fin(*this);
+    pose_cadre(ui::coin_fin);
     ui::centre_fenetre(*this);
     montre();
 }

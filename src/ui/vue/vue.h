@@ -51,14 +51,18 @@ public:
 
 protected:
     void reject() override;
-    // The windows' paper, and their captions in the book's ink. Set by hand rather than by a
-    // style sheet on the window, which would style every widget in it and make each opening
-    // slower by half.
+    // Eight picture pieces round the window, which has no border of its own, with corners of
+    // `coin` twips (coin_fin or coin_large).
+    void pose_cadre(int coin);
+    // The windows' paper and frame, and their captions in the book's ink. Set by hand rather
+    // than by a style sheet on the window, which would style every widget in it and make each
+    // opening slower by half.
     void paintEvent(QPaintEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:
     FenetreModale& modale_;
+    int coin_cadre_ = 0; // no frame
 };
 
 // The one registration of a window: its logic's type and its view.

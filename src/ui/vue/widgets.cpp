@@ -186,28 +186,6 @@ void pose(QWidget& w, const RectTwips& r) {
     w.move(px(r.left), px(r.top));
 }
 
-void pose_cadre(QWidget& fenetre, int coin) {
-    const int W = twips(fenetre.width()), H = twips(fenetre.height());
-    const auto pieces = pieces_cadre(W, H, coin);
-    for (int i = 0; i < 8; ++i) {
-        const QString nom = QStringLiteral("c%1").arg(i);
-        auto* c = fenetre.findChild<QLabel*>(nom, Qt::FindDirectChildrenOnly);
-        if (!c) {
-            c = new QLabel(&fenetre);
-            c->setObjectName(nom);
-            c->setScaledContents(true);
-        }
-        place(*c, pieces[std::size_t(i)]);
-        c->setPixmap(icc::piece_cadre(coin, i, c->size()));
-        c->show();
-        c->lower();
-    }
-}
-
-} // namespace
-
-namespace {
-
 class Palette : public QLabel {
 public:
     Palette(QWidget& parent, std::function<void(std::int32_t)> clic)
@@ -262,13 +240,6 @@ void centre_fenetre_haut(QWidget& w) {
 void taille_fenetre(QWidget& w) {
     pose(w, taille_livre(ecran_twips(w).width()));
     w.raise();
-}
-
-void pose_cadre_fin(QWidget& fenetre) {
-    pose_cadre(fenetre, coin_fin);
-}
-void pose_cadre_large(QWidget& fenetre) {
-    pose_cadre(fenetre, coin_large);
 }
 
 } // namespace agenda::ui

@@ -98,8 +98,5 @@ void centre_fenetre(QWidget& fenetre);
 void centre_fenetre_haut(QWidget& fenetre);
 // The book's size, centred across the screen at the top, in front.
 void taille_fenetre(QWidget& fenetre);
-// Eight picture pieces round a window that has no border of its own.
-void pose_cadre_fin(QWidget& fenetre);
-void pose_cadre_large(QWidget& fenetre);
 
 } // namespace agenda::ui

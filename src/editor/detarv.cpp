@@ -371,6 +371,17 @@ void Detarv::analyse_per() {
     picture4_fond = Check2 == 0 ? blanc : orange;
 }
 
+std::optional<Detarv::Cellule> Detarv::cellule(int x, int y) const {
+    const auto dedans = [x, y](const ui::RectTwips& r) {
+        return x >= r.left && x < r.left + r.width && y >= r.top && y < r.top + r.height;
+    };
+    for (int i = int(sheur.size()) - 1; i >= 0; --i) {
+        if (dedans(sminu[std::size_t(i)])) return Cellule{false, i};
+        if (dedans(sheur[std::size_t(i)])) return Cellule{true, i};
+    }
+    return std::nullopt;
+}
+
 void Detarv::sheur_Click(int i) {
     int v = Check2 * 12 + i;
     if (v < etat.heure_debut) v = etat.heure_debut;

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -54,6 +55,14 @@ public:
     void analyse_per();
     void sheur_Click(int i);
     void sminu_Click(int i);
+    // The cell of the face under a point in twips of the face: an hour or a minute, and its
+    // index. Where two overlap, the one laid last, as they were laid hour then minute for each
+    // index in turn.
+    struct Cellule {
+        bool heure;
+        int index;
+    };
+    std::optional<Cellule> cellule(int x, int y) const;
     void Picture3_Click();
     void picture4_Click();
     void Combo1_Click() { affiche_heure(); }

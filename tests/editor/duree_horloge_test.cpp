@@ -90,3 +90,25 @@ TEST_F(Durees, LeCadranDansLesHeuresDuMagasinEtSesAiguilles) {
         EXPECT_NEAR(angle(d.aiguilm), angle_m, 0.01) << h << ":" << m;
     }
 }
+
+TEST_F(Durees, UnClicSurLeCadranTrouveSaCellule) {
+    // On every face, the middle of each cell finds that cell, hours and minutes apart; the hub
+    // and the corners of the picture find none.
+    for (const char* face : {"0", "1", "3"}) {
+        d.Label16 = QString::fromLatin1(face);
+        d.charge_horloge();
+        for (int i = 0; i < 12; ++i) {
+            for (const bool heure : {true, false}) {
+                const ui::RectTwips& r = (heure ? d.sheur : d.sminu)[std::size_t(i)];
+                const auto c = d.cellule(r.left + r.width / 2, r.top + r.height / 2);
+                ASSERT_TRUE(c) << face << " " << i;
+                EXPECT_EQ(c->heure, heure) << face << " " << i;
+                EXPECT_EQ(c->index, i) << face << " " << i;
+            }
+        }
+        for (const auto& [x, y] : {std::pair{ui::horloge_centre_x, ui::horloge_centre_y},
+                                   {0, 0},
+                                   {ui::horloge_largeur - 1, ui::horloge_hauteur - 1}})
+            EXPECT_FALSE(d.cellule(x, y)) << face << " " << x << "," << y;
+    }
+}

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace agenda {
 
@@ -120,6 +121,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     g2_ = grille(Detarv::g2_rect, 4, 4, 8);
     // "1h30" must show whole in a cell a quarter of the grid wide.
     g2_->setTextElideMode(Qt::ElideNone);
+    g2_->setWordWrap(false);
     // Its cells are all in view: at some scales their rounding overflows the frame by a pixel,
     // which must not bring up scroll bars over the last row and column.
     g2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -147,22 +149,10 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     picture2_ = new ui::VueSurface(
         this, ui::VueSurface::fond_image([this](QSize t) { return ui::icc::horloge(l_.face, t); }));
     ui::place(*picture2_, Detarv::Picture2_rect);
-    // The cells are flat buttons over the face's numbers and dots: invisible until pressed, and
-    // without a style sheet, whose polish of 24 buttons cost a fifth of the opening.
-    for (int i = 0; i < 12; ++i) {
-        for (const bool heure : {true, false}) {
-            auto* b = new QPushButton(picture2_);
-            ui::place(*b, (heure ? l_.sheur : l_.sminu)[std::size_t(i)]);
-            b->setFlat(true);
-            b->setFocusPolicy(Qt::NoFocus);
-            b->setCursor(Qt::PointingHandCursor);
-            b->setToolTip(heure ? QStringLiteral("%1 h").arg(i)
-                                : QStringLiteral("%1 mn").arg(5 * i));
-            connect(b, &QPushButton::clicked, this, [this, i, heure] {
-                appelle([&] { heure ? l_.sheur_Click(i) : l_.sminu_Click(i); });
-            });
-        }
-    }
+    // The cells are places on the face's numbers and dots, found under the pointer: two dozen
+    // buttons over them, invisible until pressed, were a sixth of the window's widgets.
+    picture2_->setMouseTracking(true);
+    picture2_->installEventFilter(this);
 
     const auto bouton = [&](const RectTwips& r, const QString& t, std::function<void()> f) {
         auto* b = new QPushButton(t, this);
@@ -211,6 +201,7 @@ DetarvVue::~DetarvVue() {
 }
 
 bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
+    if (o == picture2_) return evenement_horloge(e);
     // On a touch screen the text and the SMS number are typed on the on-screen keyboard.
     const bool texte = o == text1_->viewport(), sms = o == text2_;
     if ((texte || sms) && etat.clavier_ecran != 0 &&
@@ -220,6 +211,49 @@ bool DetarvVue::eventFilter(QObject* o, QEvent* e) {
         return true;
     }
     return QDialog::eventFilter(o, e);
+}
+
+bool DetarvVue::evenement_horloge(QEvent* e) {
+    const auto sous = [this](QPointF p) {
+        return l_.cellule(ui::twips(int(p.x())), ui::twips(int(p.y())));
+    };
+    switch (e->type()) {
+    case QEvent::MouseButtonPress: {
+        // A click is a press and a release of the left button on the same cell.
+        const auto* m = static_cast<QMouseEvent*>(e);
+        pressee_ = m->button() == Qt::LeftButton ? sous(m->position()) : std::nullopt;
+        return false;
+    }
+    case QEvent::MouseButtonRelease: {
+        const auto* m = static_cast<QMouseEvent*>(e);
+        const auto c = std::exchange(pressee_, std::nullopt);
+        const auto ici = sous(m->position());
+        if (m->button() == Qt::LeftButton && c && ici && c->heure == ici->heure &&
+            c->index == ici->index)
+            appelle([&] { c->heure ? l_.sheur_Click(c->index) : l_.sminu_Click(c->index); });
+        return false;
+    }
+    case QEvent::MouseMove: {
+        const Qt::CursorShape forme = sous(static_cast<QMouseEvent*>(e)->position())
+                                          ? Qt::PointingHandCursor
+                                          : Qt::ArrowCursor;
+        if (picture2_->cursor().shape() != forme) picture2_->setCursor(forme);
+        return false;
+    }
+    case QEvent::ToolTip: {
+        const auto* h = static_cast<QHelpEvent*>(e);
+        if (const auto c = sous(h->pos()))
+            QToolTip::showText(h->globalPos(),
+                               c->heure ? QStringLiteral("%1 h").arg(c->index)
+                                        : QStringLiteral("%1 mn").arg(5 * c->index),
+                               picture2_);
+        else
+            QToolTip::hideText();
+        return true;
+    }
+    default:
+        return false;
+    }
 }
 
 // A grid of cells to click, without headers, editing or selection.

@@ -6,6 +6,7 @@
 #include "ui/vue/vue.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QCheckBox;
@@ -35,6 +36,8 @@ protected:
 
 private:
     void montre() override;
+    // A click, the pointer's shape and the tool tip over the clock's cells.
+    bool evenement_horloge(QEvent* e);
     QTableWidget* grille(const ui::RectTwips& r, int lignes, int colonnes, double points);
     QComboBox* combo(const ui::RectTwips& r, const QStringList& liste, QString Detarv::*champ,
                      std::function<void()> clic);
@@ -50,6 +53,7 @@ private:
     QPushButton *picture3_, *picture4_;
     QToolButton* image2_;
     QCompleter* sans_completion_ = nullptr;
+    std::optional<Detarv::Cellule> pressee_; // the clock's cell under the left button
     std::vector<QComboBox*> combos_;
     std::vector<QString Detarv::*> champs_;
 };

@@ -9,6 +9,7 @@
 #include "support/support.h"
 #include "ui/dates.h"
 #include "ui/systeme.h"
+#include "ui/vue/echelle.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -157,4 +158,45 @@ TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
     });
     livre->pageg_MouseDown(2000, 3700 + 10);
     EXPECT_EQ(fin, (QStringList{QStringLiteral("14"), QStringLiteral("50"), QStringLiteral("5")}));
+}
+
+TEST_F(Fenetres, LesCellulesDeLHorlogeSePrennentAuClicGauche) {
+    ASSERT_EQ(charge(), -1);
+    Torva1Vue vue(*livre);
+    vue.show();
+    QStringList minutes;
+    puis([&](QDialog& d) {
+        // The middle of a minute cell of the first face, in pixels of the window.
+        Detarv cellules;
+        cellules.Label16 = QStringLiteral("0");
+        cellules.charge_horloge();
+        const auto milieu = [&cellules](int i) {
+            const ui::RectTwips& r = cellules.sminu[std::size_t(i)];
+            return QPoint(ui::px(Detarv::Picture2_rect.left + r.left + r.width / 2),
+                          ui::px(Detarv::Picture2_rect.top + r.top + r.height / 2));
+        };
+        const auto minute = [&d] { return d.findChildren<QComboBox*>().at(1)->currentText(); };
+        const auto clic = [&d](QPoint appui, QPoint relache, Qt::MouseButton bouton) {
+            QWidget* cadran = d.childAt(appui);
+            for (const auto& [type, p] : {std::pair{QEvent::MouseButtonPress, appui},
+                                          {QEvent::MouseButtonRelease, relache}}) {
+                const QPointF ici = cadran->mapFrom(&d, QPointF(p));
+                QMouseEvent e(type, ici, cadran->mapToGlobal(ici), bouton,
+                              type == QEvent::MouseButtonPress ? bouton : Qt::NoButton,
+                              Qt::NoModifier);
+                QApplication::sendEvent(cadran, &e);
+            }
+        };
+        clic(milieu(1), milieu(1), Qt::LeftButton);
+        minutes << minute();
+        clic(milieu(3), milieu(3), Qt::RightButton); // not a click
+        clic(milieu(3), milieu(1), Qt::LeftButton);  // released on another cell
+        minutes << minute();
+        clic(milieu(3), milieu(3), Qt::LeftButton);
+        minutes << minute();
+        clique(d, "Effacer le rendez-vous");
+    });
+    livre->pageg_MouseDown(2000, 3700 + 10);
+    EXPECT_EQ(minutes,
+              (QStringList{QStringLiteral("05"), QStringLiteral("05"), QStringLiteral("15")}));
 }

@@ -17,6 +17,7 @@
 #include "ui/geometrie.h"
 #include "ui/modale.h"
 #include "ui/vue/echelle.h"
+#include "ui/vue/style.h"
 
 #include <algorithm>
 #include <array>
@@ -178,6 +179,7 @@ BENCHMARK(BM_dialogue_nu)->UseManualTime()->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     if (qgetenv("DISPLAY").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    QApplication::setStyle(new ui::StyleDuLivre); // the widgets drawn as the program draws them
     // Fifteen pairs: a window's step swings by a fifth from one repetition to the next here.
     return bench::dans_un_dossier(
         argc, argv, 15,

@@ -1,9 +1,12 @@
 #include "ui/vue/style.h"
 
 #include <array>
+#include <cmath>
 #include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
+#include <QPixmapCache>
+#include <QStyleOptionSlider>
 
 namespace agenda::ui {
 
@@ -71,6 +74,17 @@ private:
     std::size_t lues_ = 0;
 };
 
+// The colours of a palette, for a key: its own key changes with every widget's copy of it.
+std::size_t empreinte(const QPalette& p) {
+    std::size_t h = 0;
+    for (int groupe = 0; groupe < QPalette::NColorGroups; ++groupe)
+        for (int role = 0; role < QPalette::NColorRoles; ++role)
+            h = qHashMulti(h, p.color(QPalette::ColorGroup(groupe), QPalette::ColorRole(role))
+                                  .rgba64()
+                                  .toArgb32());
+    return h;
+}
+
 } // namespace
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,
@@ -81,6 +95,59 @@ QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* optio
         return QProxyStyle::standardIcon(icone, option, widget);
     return QIcon(
         new Fleche(icone == SP_ArrowLeft ? QStringLiteral("left") : QStringLiteral("right")));
+}
+
+void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option,
+                                      QPainter* g, const QWidget* widget) const {
+    // A scroll bar's lines and gradients are hundreds of lines tall, each of which the raster
+    // engine hands to other threads and waits for: two tenths of a millisecond for the services'
+    // bar at every opening of the editor. Its look depends on nothing but what the key holds.
+    // Copied only where the bar starts on a whole device pixel, as its picture does, and is not
+    // scaled: elsewhere, its lines would fall on other pixels than the bar's own.
+    const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (controle != CC_ScrollBar || !barre || !g->device())
+        return QProxyStyle::drawComplexControl(controle, option, g, widget);
+    const qreal echelle = g->device()->devicePixelRatio();
+    const QTransform t = g->deviceTransform();
+    const QPointF origine = t.map(QPointF(barre->rect.topLeft()));
+    const auto entier = [](qreal v) { return std::abs(v - std::round(v)) < 1e-6; };
+    if (t.type() > QTransform::TxScale || !qFuzzyCompare(t.m11(), echelle) ||
+        !qFuzzyCompare(t.m22(), echelle) || !entier(origine.x()) || !entier(origine.y()))
+        return QProxyStyle::drawComplexControl(controle, option, g, widget);
+    const QString cle = QStringLiteral("agenda-barre-%1x%2@%3-%4-%5-%6-%7-%8")
+                            .arg(barre->rect.width())
+                            .arg(barre->rect.height())
+                            .arg(echelle)
+                            .arg(int(barre->state))
+                            .arg(int(barre->subControls) * 65536 + int(barre->activeSubControls))
+                            .arg(QStringLiteral("%1.%2.%3.%4.%5.%6.%7")
+                                     .arg(barre->minimum)
+                                     .arg(barre->maximum)
+                                     .arg(barre->sliderPosition)
+                                     .arg(barre->sliderValue)
+                                     .arg(barre->pageStep)
+                                     .arg(barre->singleStep)
+                                     .arg(int(barre->orientation) * 2 + int(barre->upsideDown)))
+                            .arg(empreinte(barre->palette))
+                            .arg(int(barre->direction));
+    QPixmap image;
+    if (!QPixmapCache::find(cle, &image)) {
+        image = QPixmap(barre->rect.size() * echelle);
+        image.setDevicePixelRatio(echelle);
+        image.fill(Qt::transparent);
+        QStyleOptionSlider a_zero = *barre;
+        a_zero.rect.moveTo(0, 0);
+        QPainter p(&image);
+        QProxyStyle::drawComplexControl(controle, &a_zero, &p, widget);
+        p.end();
+        QPixmapCache::insert(cle, image);
+    }
+    // Pixel for pixel: smoothing, which the widget's painter asks for, would send the copy
+    // down the slow way, through the same threads.
+    const bool lisse = g->testRenderHint(QPainter::SmoothPixmapTransform);
+    g->setRenderHint(QPainter::SmoothPixmapTransform, false);
+    g->drawPixmap(barre->rect.topLeft(), image);
+    g->setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
 } // namespace agenda::ui

@@ -1,6 +1,7 @@
 #pragma once
 // The program's widget style: the platform's own, but for the month control's arrows, which are
-// the toolkit's built-in ones on every desktop, as the book draws them.
+// the toolkit's built-in ones on every desktop, as the book draws them, and for scroll bars,
+// drawn once for each look they take and then copied.
 
 #include <QProxyStyle>
 
@@ -10,6 +11,8 @@ class StyleDuLivre : public QProxyStyle {
 public:
     QIcon standardIcon(StandardPixmap icone, const QStyleOption* option,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option, QPainter* g,
+                            const QWidget* widget) const override;
 };
 
 } // namespace agenda::ui

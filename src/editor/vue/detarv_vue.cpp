@@ -111,9 +111,12 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     g1_->setColumnWidth(0, ui::px(3000));
     g1_->setColumnWidth(1, ui::px(1100));
     g1_->verticalHeader()->setDefaultSectionSize(ui::px(300));
+    // The grid's rows past the catalogue are empty cells: they are drawn and clicked as cells
+    // with an empty text are, without the hundred items they would cost to make.
     for (int i = 0; i < int(l_.g1.size()); ++i) {
-        g1_->setItem(i, 0, new QTableWidgetItem(l_.g1[std::size_t(i)].nom));
-        g1_->setItem(i, 1, new QTableWidgetItem(l_.g1[std::size_t(i)].minutes));
+        const Detarv::LigneService& s = l_.g1[std::size_t(i)];
+        if (!s.nom.isEmpty()) g1_->setItem(i, 0, new QTableWidgetItem(s.nom));
+        if (!s.minutes.isEmpty()) g1_->setItem(i, 1, new QTableWidgetItem(s.minutes));
     }
     connect(g1_, &QTableWidget::cellClicked, this,
             [this](int ligne, int) { appelle([&] { l_.g1_Click(ligne); }); });

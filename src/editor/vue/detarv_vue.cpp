@@ -152,6 +152,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     picture2_ = new ui::VueSurface(
         this, ui::VueSurface::fond_image([this](QSize t) { return ui::icc::horloge(l_.face, t); }));
     ui::place(*picture2_, Detarv::Picture2_rect);
+    picture2_->sans_image_gardee(); // every move of the hands redraws the face
     // The cells are places on the face's numbers and dots, found under the pointer: two dozen
     // buttons over them, invisible until pressed, were a sixth of the window's widgets.
     picture2_->setMouseTracking(true);

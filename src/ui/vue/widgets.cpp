@@ -72,9 +72,35 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, 
     return image;
 }
 
+namespace {
+
+// Whether the widget starts on a whole device pixel of its window: a picture drawn at its corner
+// then falls on the same pixels as one copied there.
+bool sur_pixels_entiers(const QWidget& w) {
+    const QPointF p = QPointF(w.mapTo(w.window(), QPoint(0, 0))) * w.devicePixelRatioF();
+    return std::abs(p.x() - std::round(p.x())) < 1e-6 && std::abs(p.y() - std::round(p.y())) < 1e-6;
+}
+
+} // namespace
+
 void VueSurface::paintEvent(QPaintEvent* e) {
     const qreal echelle = devicePixelRatioF();
     const QSize voulu = size() * echelle;
+    // Straight on the window where that gives the kept picture's pixels.
+    if (!gardee_ && sur_pixels_entiers(*this)) {
+        QPainter g(this);
+        if (fond_) {
+            g.save();
+            g.scale(1 / echelle, 1 / echelle);
+            fond_(g, voulu);
+            g.restore();
+        }
+        if (surface_) {
+            g.scale(px_par_twip(), px_par_twip());
+            dessine_surface(g, *surface_);
+        }
+        return;
+    }
     if (rendu_.size() != voulu) {
         // An opaque surface's every pixel is opaque: its picture, a quarter smaller without
         // alpha, is copied to the window rather than blended.

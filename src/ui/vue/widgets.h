@@ -44,6 +44,9 @@ public:
     std::function<void(int x, int y)> sur_clic;
     // Every move of the pointer over the surface, a button pressed or not.
     void suit_la_souris(std::function<void(int x, int y)> mouvement);
+    // Drawn straight on the window at every paint, without the picture kept between paints: for
+    // a small surface whose every change redraws it all anyway.
+    void sans_image_gardee() { gardee_ = false; }
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -58,6 +61,7 @@ private:
     std::optional<Surface> surface_; // what is shown, kept as it was when shown
     QImage rendu_;                   // the background with the drawing on it
     int version_ = 0;
+    bool gardee_ = true;
 };
 
 // A caption on a picture surface, shown as the picture of its text on the surface beneath it.

@@ -3,6 +3,7 @@
 #include "data/etat.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
+#include "ui/vue/style.h"
 #include "ui/vue/widgets.h"
 
 #include <QCheckBox>
@@ -270,6 +271,7 @@ QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes, do
     g->setEditTriggers(QAbstractItemView::NoEditTriggers);
     g->setSelectionMode(QAbstractItemView::NoSelection);
     g->setFont(ui::police(QStringLiteral("DejaVu Sans"), points));
+    g->setItemDelegate(new ui::CellulesGardees(g));
     g->setColumnCount(colonnes);
     g->setRowCount(lignes);
     return g;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <QPainter>
 #include <QScreen>
 #include <QWidget>
 
@@ -52,6 +53,16 @@ QFont police(const QString& nom, double points, bool gras) {
     f.setPixelSize(std::max(1, px(points * twips_par_point)));
     f.setBold(gras);
     return f;
+}
+
+bool copie_exacte(const QPainter& g, QPointF p) {
+    if (!g.device()) return false;
+    const qreal echelle = g.device()->devicePixelRatio();
+    const QTransform t = g.deviceTransform();
+    const QPointF o = t.map(p);
+    const auto entier = [](qreal v) { return std::abs(v - std::round(v)) < 1e-6; };
+    return t.type() <= QTransform::TxScale && qFuzzyCompare(t.m11(), echelle) &&
+           qFuzzyCompare(t.m22(), echelle) && entier(o.x()) && entier(o.y());
 }
 
 } // namespace agenda::ui

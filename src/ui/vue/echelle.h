@@ -7,6 +7,8 @@
 #include <QFont>
 #include <QRect>
 
+class QPainter;
+class QPointF;
 class QScreen;
 class QWidget;
 
@@ -25,5 +27,9 @@ QRect px(const RectTwips& r);
 void place(QWidget& w, const RectTwips& r);
 // A font of so many points at the book's scale.
 QFont police(const QString& nom, double points, bool gras = false);
+
+// Whether a picture made at the painter's device pixels and copied at `p` gives the pixels the
+// painter would draw there: `p` falls on a whole device pixel and nothing scales but the screen.
+bool copie_exacte(const QPainter& g, QPointF p);
 
 } // namespace agenda::ui

@@ -1,7 +1,10 @@
 #include "ui/vue/style.h"
 
+#include "ui/vue/echelle.h"
+
 #include <array>
-#include <cmath>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
@@ -74,15 +77,34 @@ private:
     std::size_t lues_ = 0;
 };
 
-// The colours of a palette, for a key: its own key changes with every widget's copy of it.
+// The colours of a palette, for a key: its own key changes with every widget's copy of it. The
+// last palette's is kept, as a grid's cells share their grid's.
 std::size_t empreinte(const QPalette& p) {
+    static std::pair<qint64, std::size_t> derniere{-1, 0};
+    if (derniere.first == p.cacheKey()) return derniere.second;
     std::size_t h = 0;
     for (int groupe = 0; groupe < QPalette::NColorGroups; ++groupe)
         for (int role = 0; role < QPalette::NColorRoles; ++role)
             h = qHashMulti(h, p.color(QPalette::ColorGroup(groupe), QPalette::ColorRole(role))
                                   .rgba64()
                                   .toArgb32());
+    derniere = {p.cacheKey(), h};
     return h;
+}
+
+// The key of a kept picture: its kind, what its look depends on, and its text.
+template <class... T>
+QString cle(QLatin1StringView sorte, const QString& texte, const T&... valeurs) {
+    return sorte + QString::number(qHashMulti(0, valeurs...), 36) + QLatin1Char('|') + texte;
+}
+
+// A kept picture at a point on whole device pixels, pixel for pixel: smoothing, which a widget's
+// painter may ask for, would send the copy down the slow way, through the raster engine's threads.
+void copie(QPainter& g, QPoint p, const QPixmap& image) {
+    const bool lisse = g.testRenderHint(QPainter::SmoothPixmapTransform);
+    g.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    g.drawPixmap(p, image);
+    g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
 } // namespace
@@ -107,31 +129,17 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
     const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (controle != CC_ScrollBar || !barre || !g->device())
         return QProxyStyle::drawComplexControl(controle, option, g, widget);
-    const qreal echelle = g->device()->devicePixelRatio();
-    const QTransform t = g->deviceTransform();
-    const QPointF origine = t.map(QPointF(barre->rect.topLeft()));
-    const auto entier = [](qreal v) { return std::abs(v - std::round(v)) < 1e-6; };
-    if (t.type() > QTransform::TxScale || !qFuzzyCompare(t.m11(), echelle) ||
-        !qFuzzyCompare(t.m22(), echelle) || !entier(origine.x()) || !entier(origine.y()))
+    if (!copie_exacte(*g, barre->rect.topLeft()))
         return QProxyStyle::drawComplexControl(controle, option, g, widget);
-    const QString cle = QStringLiteral("agenda-barre-%1x%2@%3-%4-%5-%6-%7-%8")
-                            .arg(barre->rect.width())
-                            .arg(barre->rect.height())
-                            .arg(echelle)
-                            .arg(int(barre->state))
-                            .arg(int(barre->subControls) * 65536 + int(barre->activeSubControls))
-                            .arg(QStringLiteral("%1.%2.%3.%4.%5.%6.%7")
-                                     .arg(barre->minimum)
-                                     .arg(barre->maximum)
-                                     .arg(barre->sliderPosition)
-                                     .arg(barre->sliderValue)
-                                     .arg(barre->pageStep)
-                                     .arg(barre->singleStep)
-                                     .arg(int(barre->orientation) * 2 + int(barre->upsideDown)))
-                            .arg(empreinte(barre->palette))
-                            .arg(int(barre->direction));
+    const qreal echelle = g->device()->devicePixelRatio();
+    const QString c =
+        cle(QLatin1StringView("agenda-barre-"), QString(), barre->rect.size(), echelle,
+            int(barre->state), int(barre->subControls), int(barre->activeSubControls),
+            barre->minimum, barre->maximum, barre->sliderPosition, barre->sliderValue,
+            barre->pageStep, barre->singleStep, int(barre->orientation), barre->upsideDown,
+            empreinte(barre->palette), int(barre->direction));
     QPixmap image;
-    if (!QPixmapCache::find(cle, &image)) {
+    if (!QPixmapCache::find(c, &image)) {
         image = QPixmap(barre->rect.size() * echelle);
         image.setDevicePixelRatio(echelle);
         image.fill(Qt::transparent);
@@ -140,14 +148,46 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
         QPainter p(&image);
         QProxyStyle::drawComplexControl(controle, &a_zero, &p, widget);
         p.end();
-        QPixmapCache::insert(cle, image);
+        QPixmapCache::insert(c, image);
     }
-    // Pixel for pixel: smoothing, which the widget's painter asks for, would send the copy
-    // down the slow way, through the same threads.
-    const bool lisse = g->testRenderHint(QPainter::SmoothPixmapTransform);
-    g->setRenderHint(QPainter::SmoothPixmapTransform, false);
-    g->drawPixmap(barre->rect.topLeft(), image);
-    g->setRenderHint(QPainter::SmoothPixmapTransform, lisse);
+    copie(*g, barre->rect.topLeft(), image);
+}
+
+void CellulesGardees::paint(QPainter* g, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+    QStyleOptionViewItem o = option;
+    initStyleOption(&o, index);
+    const QWidget* w = o.widget;
+    QStyle* style = w ? w->style() : QApplication::style();
+    // The picture is made on the grid's ground, which lies under the cell: a plain colour
+    // wherever the cell has no ground, mark or picture of its own.
+    const auto* vue = qobject_cast<const QAbstractItemView*>(w);
+    const QWidget* sol = vue ? vue->viewport() : nullptr;
+    const QBrush fond = sol ? sol->palette().brush(sol->backgroundRole()) : QBrush();
+    constexpr auto propres = QStyleOptionViewItem::HasCheckIndicator |
+                             QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::Alternate;
+    if (!sol || !sol->autoFillBackground() || fond.style() != Qt::SolidPattern ||
+        !fond.isOpaque() || (o.features & propres) || !o.icon.isNull() ||
+        o.backgroundBrush.style() != Qt::NoBrush || !copie_exacte(*g, o.rect.topLeft()))
+        return style->drawControl(QStyle::CE_ItemViewItem, &o, g, w);
+    const qreal echelle = g->device()->devicePixelRatio();
+    const QString c =
+        cle(QLatin1StringView("agenda-cellule-"), o.text, o.rect.size(), echelle, int(o.state),
+            int(o.features), int(o.displayAlignment), int(o.textElideMode), o.font,
+            empreinte(o.palette), fond.color().rgba(), int(o.direction));
+    QPixmap image;
+    if (!QPixmapCache::find(c, &image)) {
+        image = QPixmap(o.rect.size() * echelle);
+        image.setDevicePixelRatio(echelle);
+        image.fill(fond.color());
+        QStyleOptionViewItem a_zero = o;
+        a_zero.rect.moveTo(0, 0);
+        QPainter p(&image);
+        style->drawControl(QStyle::CE_ItemViewItem, &a_zero, &p, w);
+        p.end();
+        QPixmapCache::insert(c, image);
+    }
+    copie(*g, o.rect.topLeft(), image);
 }
 
 } // namespace agenda::ui

@@ -4,6 +4,7 @@
 // drawn once for each look they take and then copied.
 
 #include <QProxyStyle>
+#include <QStyledItemDelegate>
 
 namespace agenda::ui {
 
@@ -13,6 +14,15 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option, QPainter* g,
                             const QWidget* widget) const override;
+};
+
+// A grid's cells of plain text on its ground, each drawn once for its look and then copied: the
+// style lays a cell's text out three times at every paint.
+class CellulesGardees : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* g, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
 };
 
 } // namespace agenda::ui

@@ -72,23 +72,12 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, 
     return image;
 }
 
-namespace {
-
-// Whether the widget starts on a whole device pixel of its window: a picture drawn at its corner
-// then falls on the same pixels as one copied there.
-bool sur_pixels_entiers(const QWidget& w) {
-    const QPointF p = QPointF(w.mapTo(w.window(), QPoint(0, 0))) * w.devicePixelRatioF();
-    return std::abs(p.x() - std::round(p.x())) < 1e-6 && std::abs(p.y() - std::round(p.y())) < 1e-6;
-}
-
-} // namespace
-
 void VueSurface::paintEvent(QPaintEvent* e) {
     const qreal echelle = devicePixelRatioF();
     const QSize voulu = size() * echelle;
+    QPainter g(this);
     // Straight on the window where that gives the kept picture's pixels.
-    if (!gardee_ && sur_pixels_entiers(*this)) {
-        QPainter g(this);
+    if (!gardee_ && copie_exacte(g, QPointF(0, 0))) {
         if (fond_) {
             g.save();
             g.scale(1 / echelle, 1 / echelle);
@@ -111,15 +100,14 @@ void VueSurface::paintEvent(QPaintEvent* e) {
                      ? std::move(pret)
                      : image_du_fond(fond_, voulu, echelle, opaque);
         if (surface_) {
-            QPainter g(&rendu_);
-            g.scale(px_par_twip(), px_par_twip());
-            dessine_surface(g, *surface_);
+            QPainter p(&rendu_);
+            p.scale(px_par_twip(), px_par_twip());
+            dessine_surface(p, *surface_);
         }
     }
     // Rectangle by rectangle of what needs repainting: under a clip of many rectangles (the
     // page round its opaque controls) the raster engine would build a span list of height times
     // rectangles, 400 KiB for a page, rather than copy lines.
-    QPainter g(this);
     for (const QRect& r : e->region()) {
         g.setClipRect(r);
         g.drawImage(0, 0, rendu_);

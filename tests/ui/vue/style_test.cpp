@@ -5,10 +5,12 @@
 #include "ui/vue/style.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
+#include <QTableWidget>
 
 using namespace agenda::ui;
 
@@ -71,5 +73,38 @@ TEST(StyleDuLivre, UneBarreCopieeDonneLesPixelsDuStyle) {
                         << echelle << " time " << fois;
             }
         }
+    }
+}
+
+TEST(CellulesGardees, UneGrilleDonneLesPixelsDuStyle) {
+    // Two grids alike, one with its cells copied: the same pixels, drawn first and again from the
+    // kept pictures, whatever the cells hold and wherever the current cell stands.
+    const auto grille = [](bool gardees) {
+        auto* g = new QTableWidget(4, 3);
+        g->resize(260, 130);
+        if (gardees) g->setItemDelegate(new CellulesGardees(g));
+        const char* textes[] = {"-10", "1h30", "", "Brushing long", "é€œ", "2h00"};
+        for (int i = 0; i < 12; ++i) {
+            auto* item = new QTableWidgetItem(QString::fromUtf8(textes[i % 6]));
+            item->setTextAlignment(i % 2 ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+            g->setItem(i / 3, i % 3, item);
+        }
+        g->show();
+        return std::unique_ptr<QTableWidget>(g);
+    };
+    const auto toolkit = grille(false), livre = grille(true);
+    const std::vector<std::function<void(QTableWidget&)>> gestes = {
+        [](QTableWidget&) {},
+        [](QTableWidget& g) { g.setCurrentCell(1, 2); },
+        [](QTableWidget& g) { g.item(2, 0)->setText(QStringLiteral("Couleur")); },
+        [](QTableWidget& g) { g.setFont(QFont(QStringLiteral("DejaVu Serif"), 11)); },
+        [](QTableWidget& g) { g.setEnabled(false); },
+    };
+    for (std::size_t i = 0; i < gestes.size(); ++i) {
+        gestes[i](*toolkit);
+        gestes[i](*livre);
+        const QImage attendue = toolkit->grab().toImage();
+        for (int fois = 0; fois < 2; ++fois)
+            EXPECT_EQ(livre->grab().toImage(), attendue) << "step " << i << " time " << fois;
     }
 }

@@ -125,7 +125,6 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     g2_ = grille(Detarv::g2_rect, 4, 4, 8);
     // "1h30" must show whole in a cell a quarter of the grid wide.
     g2_->setTextElideMode(Qt::ElideNone);
-    g2_->setWordWrap(false);
     // Its cells are all in view: at some scales their rounding overflows the frame by a pixel,
     // which must not bring up scroll bars over the last row and column.
     g2_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -127,9 +127,7 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
     // Copied only where the bar starts on a whole device pixel, as its picture does, and is not
     // scaled: elsewhere, its lines would fall on other pixels than the bar's own.
     const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (controle != CC_ScrollBar || !barre || !g->device())
-        return QProxyStyle::drawComplexControl(controle, option, g, widget);
-    if (!copie_exacte(*g, barre->rect.topLeft()))
+    if (controle != CC_ScrollBar || !barre || !copie_exacte(*g, barre->rect.topLeft()))
         return QProxyStyle::drawComplexControl(controle, option, g, widget);
     const qreal echelle = g->device()->devicePixelRatio();
     const QString c =

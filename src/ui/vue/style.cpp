@@ -3,6 +3,7 @@
 #include "ui/vue/echelle.h"
 
 #include <array>
+#include <functional>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QIconEngine>
@@ -98,12 +99,26 @@ QString cle(QLatin1StringView sorte, const QString& texte, const T&... valeurs) 
     return sorte + QString::number(qHashMulti(0, valeurs...), 36) + QLatin1Char('|') + texte;
 }
 
-// A kept picture at a point on whole device pixels, pixel for pixel: smoothing, which a widget's
-// painter may ask for, would send the copy down the slow way, through the raster engine's threads.
-void copie(QPainter& g, QPoint p, const QPixmap& image) {
+// The picture kept under `cle`, made the first time by `dessine` on `fond` at its own corner, at
+// `r` on whole device pixels, pixel for pixel: smoothing, which a widget's painter may ask for,
+// would send the copy down the slow way, through the raster engine's threads.
+void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor& fond,
+                  const std::function<void(QPainter&)>& dessine) {
+    QPixmap image;
+    if (!QPixmapCache::find(cle, &image)) {
+        const qreal echelle = g.device()->devicePixelRatio();
+        image = QPixmap(r.size() * echelle);
+        image.setDevicePixelRatio(echelle);
+        image.fill(fond);
+        QPainter p(&image);
+        p.translate(-r.topLeft());
+        dessine(p);
+        p.end();
+        QPixmapCache::insert(cle, image);
+    }
     const bool lisse = g.testRenderHint(QPainter::SmoothPixmapTransform);
     g.setRenderHint(QPainter::SmoothPixmapTransform, false);
-    g.drawPixmap(p, image);
+    g.drawPixmap(r.topLeft(), image);
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
@@ -136,19 +151,9 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
             barre->minimum, barre->maximum, barre->sliderPosition, barre->sliderValue,
             barre->pageStep, barre->singleStep, int(barre->orientation), barre->upsideDown,
             empreinte(barre->palette), int(barre->direction));
-    QPixmap image;
-    if (!QPixmapCache::find(c, &image)) {
-        image = QPixmap(barre->rect.size() * echelle);
-        image.setDevicePixelRatio(echelle);
-        image.fill(Qt::transparent);
-        QStyleOptionSlider a_zero = *barre;
-        a_zero.rect.moveTo(0, 0);
-        QPainter p(&image);
-        QProxyStyle::drawComplexControl(controle, &a_zero, &p, widget);
-        p.end();
-        QPixmapCache::insert(c, image);
-    }
-    copie(*g, barre->rect.topLeft(), image);
+    copie_gardee(*g, barre->rect, c, Qt::transparent, [&](QPainter& p) {
+        QProxyStyle::drawComplexControl(controle, barre, &p, widget);
+    });
 }
 
 void CellulesGardees::paint(QPainter* g, const QStyleOptionViewItem& option,
@@ -173,19 +178,8 @@ void CellulesGardees::paint(QPainter* g, const QStyleOptionViewItem& option,
         cle(QLatin1StringView("agenda-cellule-"), o.text, o.rect.size(), echelle, int(o.state),
             int(o.features), int(o.displayAlignment), int(o.textElideMode), o.font,
             empreinte(o.palette), fond.color().rgba(), int(o.direction));
-    QPixmap image;
-    if (!QPixmapCache::find(c, &image)) {
-        image = QPixmap(o.rect.size() * echelle);
-        image.setDevicePixelRatio(echelle);
-        image.fill(fond.color());
-        QStyleOptionViewItem a_zero = o;
-        a_zero.rect.moveTo(0, 0);
-        QPainter p(&image);
-        style->drawControl(QStyle::CE_ItemViewItem, &a_zero, &p, w);
-        p.end();
-        QPixmapCache::insert(c, image);
-    }
-    copie(*g, o.rect.topLeft(), image);
+    copie_gardee(*g, o.rect, c, fond.color(),
+                 [&](QPainter& p) { style->drawControl(QStyle::CE_ItemViewItem, &o, &p, w); });
 }
 
 } // namespace agenda::ui

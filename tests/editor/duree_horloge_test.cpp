@@ -97,14 +97,10 @@ TEST_F(Durees, UnClicSurLeCadranTrouveSaCellule) {
     for (const char* face : {"0", "1", "3"}) {
         d.Label16 = QString::fromLatin1(face);
         d.charge_horloge();
-        for (int i = 0; i < 12; ++i) {
-            for (const bool heure : {true, false}) {
-                const ui::RectTwips& r = (heure ? d.sheur : d.sminu)[std::size_t(i)];
-                const auto c = d.cellule(r.left + r.width / 2, r.top + r.height / 2);
-                ASSERT_TRUE(c) << face << " " << i;
-                EXPECT_EQ(c->heure, heure) << face << " " << i;
-                EXPECT_EQ(c->index, i) << face << " " << i;
-            }
+        for (int i = 0; i < 24; ++i) {
+            const ui::RectTwips& r = (i < 12 ? d.sheur : d.sminu)[std::size_t(i % 12)];
+            const auto c = d.cellule(r.left + r.width / 2, r.top + r.height / 2);
+            EXPECT_TRUE(c && c->heure == (i < 12) && c->index == i % 12) << face << " " << i;
         }
         for (const auto& [x, y] : {std::pair{ui::horloge_centre_x, ui::horloge_centre_y},
                                    {0, 0},

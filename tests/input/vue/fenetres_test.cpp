@@ -123,7 +123,7 @@ TEST_F(Fenetres, FermerLeLivreLanceLeRetourCommeEchap) {
     EXPECT_EQ(lances, QStringList{QStringLiteral("caisse --menu")});
 }
 
-TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
+TEST_F(Fenetres, LHeureSeTapeSeChoisitEtSePrendSurLHorloge) {
     ASSERT_EQ(charge(), -1);
     Torva1Vue vue(*livre);
     vue.show();
@@ -144,29 +144,18 @@ TEST_F(Fenetres, LesSelecteursDeLHeurePrennentCeQuOnTapeEtCeQuOnChoisit) {
                 QApplication::sendEvent(s->lineEdit(), &appui);
             }
         };
-        if (selecteurs.size() == 4 &&
-            std::all_of(selecteurs.begin(), selecteurs.end(),
-                        [](const QComboBox* s) { return s->lineEdit() != nullptr; })) {
-            tape(selecteurs[0], {'1', '4'});
-            selecteurs[1]->setCurrentIndex(6);
-            emit selecteurs[1]->activated(6);
-            fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
-            tape(selecteurs[3], {'5'});
-            fin << selecteurs[3]->currentText();
-        }
-        clique(d, "Effacer le rendez-vous");
-    });
-    livre->pageg_MouseDown(2000, 3700 + 10);
-    EXPECT_EQ(fin, (QStringList{QStringLiteral("14"), QStringLiteral("50"), QStringLiteral("5")}));
-}
-
-TEST_F(Fenetres, LesCellulesDeLHorlogeSePrennentAuClicGauche) {
-    ASSERT_EQ(charge(), -1);
-    Torva1Vue vue(*livre);
-    vue.show();
-    QStringList minutes;
-    puis([&](QDialog& d) {
-        // The middle of a minute cell of the first face, in pixels of the window.
+        if (selecteurs.size() != 4 ||
+            !std::all_of(selecteurs.begin(), selecteurs.end(),
+                         [](const QComboBox* s) { return s->lineEdit() != nullptr; }))
+            return clique(d, "Effacer le rendez-vous");
+        tape(selecteurs[0], {'1', '4'});
+        selecteurs[1]->setCurrentIndex(6);
+        emit selecteurs[1]->activated(6);
+        fin << selecteurs[2]->currentText() << selecteurs[3]->currentText();
+        tape(selecteurs[3], {'5'});
+        fin << selecteurs[3]->currentText();
+        // The minutes on the clock: a press and a release of the left button on the same cell,
+        // here minute cells 1 and 3 of the first face.
         Detarv cellules;
         cellules.Label16 = QStringLiteral("0");
         cellules.charge_horloge();
@@ -175,28 +164,24 @@ TEST_F(Fenetres, LesCellulesDeLHorlogeSePrennentAuClicGauche) {
             return QPoint(ui::px(Detarv::Picture2_rect.left + r.left + r.width / 2),
                           ui::px(Detarv::Picture2_rect.top + r.top + r.height / 2));
         };
-        const auto minute = [&d] { return d.findChildren<QComboBox*>().at(1)->currentText(); };
-        const auto clic = [&d](QPoint appui, QPoint relache, Qt::MouseButton bouton) {
-            QWidget* cadran = d.childAt(appui);
-            for (const auto& [type, p] : {std::pair{QEvent::MouseButtonPress, appui},
+        const auto clic = [&](int appui, int relache, Qt::MouseButton bouton) {
+            QWidget* cadran = d.childAt(milieu(appui));
+            for (const auto& [type, i] : {std::pair{QEvent::MouseButtonPress, appui},
                                           {QEvent::MouseButtonRelease, relache}}) {
-                const QPointF ici = cadran->mapFrom(&d, QPointF(p));
+                const QPointF ici = cadran->mapFrom(&d, QPointF(milieu(i)));
                 QMouseEvent e(type, ici, cadran->mapToGlobal(ici), bouton,
                               type == QEvent::MouseButtonPress ? bouton : Qt::NoButton,
                               Qt::NoModifier);
                 QApplication::sendEvent(cadran, &e);
             }
+            fin << selecteurs[1]->currentText();
         };
-        clic(milieu(1), milieu(1), Qt::LeftButton);
-        minutes << minute();
-        clic(milieu(3), milieu(3), Qt::RightButton); // not a click
-        clic(milieu(3), milieu(1), Qt::LeftButton);  // released on another cell
-        minutes << minute();
-        clic(milieu(3), milieu(3), Qt::LeftButton);
-        minutes << minute();
+        clic(1, 1, Qt::LeftButton);
+        clic(3, 3, Qt::RightButton); // not a click
+        clic(3, 1, Qt::LeftButton);  // released on another cell
+        clic(3, 3, Qt::LeftButton);
         clique(d, "Effacer le rendez-vous");
     });
     livre->pageg_MouseDown(2000, 3700 + 10);
-    EXPECT_EQ(minutes,
-              (QStringList{QStringLiteral("05"), QStringLiteral("05"), QStringLiteral("15")}));
+    EXPECT_EQ(fin, (QStringList{"14", "50", "5", "05", "05", "05", "15"}));
 }

@@ -36,7 +36,9 @@ int main(int argc, char** argv) {
             return 0;
         }
     }
+    agenda::ui::ACote polices = agenda::lit_les_polices_a_cote();
     QApplication app(argc, argv);
+    polices.attends();
     const auto programme = agenda::ouvre_programme();
     return QApplication::exec();
 }

@@ -19,6 +19,7 @@
 #include "ui/vue/icc.h"
 #include "ui/vue/style.h"
 
+#include <fontconfig/fontconfig.h>
 #include <QApplication>
 #include <QDBusConnection>
 #include <QInputDialog>
@@ -48,6 +49,12 @@ void enregistre_fenetres() {
 }
 
 } // namespace
+
+ui::ACote lit_les_polices_a_cote() {
+    // The toolkit asks for it again and finds it read; should it fail here, the toolkit's own
+    // reading says so.
+    return ui::ACote([] { FcInit(); });
+}
 
 std::unique_ptr<Programme> ouvre_programme() {
     // The accessibility layer asks for the session bus as the first widgets are made, and waits

@@ -16,6 +16,11 @@ struct Programme {
     ui::ACote bus_de_session; // looked up on the side while the book is built
 };
 
+// Started before the QApplication, waited for once it is made: the font configuration, read on
+// the side while the application connects to the display rather than when the first caption is
+// measured, which waited for it.
+ui::ACote lit_les_polices_a_cote();
+
 // Needs the QApplication made; the book is shown when it returns.
 std::unique_ptr<Programme> ouvre_programme();
 

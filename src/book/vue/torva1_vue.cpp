@@ -217,11 +217,7 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     label7_->setToolTip(QStringLiteral("Changer de collaborateur"));
     label7_->installEventFilter(this);
 
-    calend_ = new QCalendarWidget(pageg_);
-    ui::place(*calend_, Torva1::calend_rect);
-    calend_->setLocale(QLocale(QLocale::French, QLocale::France));
-    calend_->setFirstDayOfWeek(Qt::Monday);
-    calend_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calend_ = ui::calendrier(*pageg_, Torva1::calend_rect);
     calend_->setGridVisible(false);
     calend_->setFont(ui::police(QStringLiteral("Arial"), 8));
     // Its parts cover it whole: said opaque, it is not repainted with the page under it.

@@ -11,11 +11,7 @@
 namespace agenda {
 
 Date97Vue::Date97Vue(Date97& l) : VueModale(l, l.largeur, l.hauteur), l_(l) {
-    monthview1_ = new QCalendarWidget(this);
-    ui::place(*monthview1_, l.MonthView1_rect);
-    monthview1_->setLocale(QLocale(QLocale::French, QLocale::France));
-    monthview1_->setFirstDayOfWeek(Qt::Monday);
-    monthview1_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    monthview1_ = ui::calendrier(*this, l.MonthView1_rect);
 
     label1_ = new QLabel(this);
     ui::place(*label1_, l.Label1_rect);

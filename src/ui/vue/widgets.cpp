@@ -5,6 +5,7 @@
 #include "ui/vue/icc.h"
 
 #include <cmath>
+#include <QCalendarWidget>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -217,6 +218,16 @@ private:
 };
 
 } // namespace
+
+QCalendarWidget* calendrier(QWidget& parent, const RectTwips& r) {
+    auto* c = new QCalendarWidget(&parent);
+    place(*c, r);
+    c->setLocale(QLocale(QLocale::French, QLocale::France));
+    c->setFirstDayOfWeek(Qt::Monday);
+    c->setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
+    c->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    return c;
+}
 
 QLabel* palette(QWidget& parent, const RectTwips& r, std::function<void(std::int32_t)> clic) {
     auto* p = new Palette(parent, std::move(clic));

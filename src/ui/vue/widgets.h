@@ -13,6 +13,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+class QCalendarWidget;
+
 class QFont;
 class QLabel;
 class QPainter;
@@ -81,6 +83,11 @@ private:
     std::map<QString, QPixmap> images_;
     std::pair<int, qreal> images_de_{-1, 0}; // the surface's version and scale they were made at
 };
+
+// A month calendar at a rectangle in twips, in French, its weeks from Monday, without week
+// numbers. Its days are headed by their initials: the short names ("sam.") were cut short in
+// the book's narrow columns.
+QCalendarWidget* calendrier(QWidget& parent, const RectTwips& r);
 
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,
 // read from the pixel under the pointer, as the files keep colours.

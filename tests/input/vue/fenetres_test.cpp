@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QTableView>
 #include <QTimer>
 #include <QToolButton>
@@ -110,6 +111,28 @@ TEST_F(Fenetres, ChaqueFenetreAppartientACelleQuiLOuvreEtLeLivreNePasseJamaisDes
     livre->pageg_MouseDown(2000, 3700 + 10);
     EXPECT_NE(editeur, nullptr);
     EXPECT_NE(question, nullptr);
+}
+
+TEST_F(Fenetres, LesJoursDuMoisSeLisentEnEntierAChaqueEchelle) {
+    // The book on a small screen, a common one and a large one: no day's heading is cut short.
+    ASSERT_EQ(charge(), -1);
+    const double avant = ui::px_par_twip();
+    for (const double echelle : {1.0 / 18, 1.0 / 15, 1.0 / 12, 2.0 / 15}) {
+        ui::fixe_echelle(echelle);
+        Torva1Vue vue(*livre);
+        vue.show();
+        QApplication::processEvents();
+        auto* jours = vue.findChild<QCalendarWidget*>()->findChild<QTableView*>();
+        const QFontMetrics mesure(jours->font());
+        const int marges =
+            2 * (jours->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, jours) + 1);
+        for (int c = 0; c < 7; ++c) {
+            const QString jour = jours->model()->index(0, c).data().toString();
+            EXPECT_LE(mesure.horizontalAdvance(jour) + marges, jours->columnWidth(c))
+                << jour.toStdString() << " at " << 1 / echelle << " twips a pixel";
+        }
+    }
+    ui::fixe_echelle(avant);
 }
 
 TEST_F(Fenetres, FermerLeLivreLanceLeRetourCommeEchap) {

@@ -2,7 +2,9 @@
 
 #include "ui/vue/echelle.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -122,6 +124,11 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
+// The book's size to the size it is drawn at, 15 twips a pixel, when it is shown smaller.
+double retrait() {
+    return std::min(1.0, px_par_twip() * 15);
+}
+
 } // namespace
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,
@@ -154,6 +161,37 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
     copie_gardee(*g, barre->rect, c, Qt::transparent, [&](QPainter& p) {
         QProxyStyle::drawComplexControl(controle, barre, &p, widget);
     });
+}
+
+int StyleDuLivre::pixelMetric(PixelMetric mesure, const QStyleOption* option,
+                              const QWidget* widget) const {
+    const int n = QProxyStyle::pixelMetric(mesure, option, widget);
+    switch (mesure) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        return std::max(1, int(std::lround(n * retrait())));
+    default:
+        return n;
+    }
+}
+
+QRect StyleDuLivre::subControlRect(ComplexControl controle, const QStyleOptionComplex* option,
+                                   SubControl partie, const QWidget* widget) const {
+    const QRect r = QProxyStyle::subControlRect(controle, option, partie, widget);
+    if (controle != CC_ComboBox || retrait() >= 1 ||
+        (partie != SC_ComboBoxArrow && partie != SC_ComboBoxEditField))
+        return r;
+    // The arrow gives up the side it shares with the text, which takes it.
+    const QRect fleche = QProxyStyle::subControlRect(controle, option, SC_ComboBoxArrow, widget);
+    const int cede = fleche.width() - int(std::lround(fleche.width() * retrait()));
+    const bool inverse = option->direction == Qt::RightToLeft;
+    if (partie == SC_ComboBoxArrow)
+        return inverse ? r.adjusted(0, 0, -cede, 0) : r.adjusted(cede, 0, 0, 0);
+    return inverse ? r.adjusted(-cede, 0, 0, 0) : r.adjusted(0, 0, cede, 0);
 }
 
 void CellulesGardees::paint(QPainter* g, const QStyleOptionViewItem& option,

@@ -10,6 +10,7 @@
 #include "ui/dates.h"
 #include "ui/systeme.h"
 #include "ui/vue/echelle.h"
+#include "ui/vue/style.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -133,6 +134,36 @@ TEST_F(Fenetres, LesJoursDuMoisSeLisentEnEntierAChaqueEchelle) {
         }
     }
     ui::fixe_echelle(avant);
+}
+
+TEST_F(Fenetres, LesHeuresSeLisentEnEntierAChaqueEchelle) {
+    // The editor on a small screen, a common one and a large one, in the program's style: the
+    // lists' arrows, of a fixed size, must leave the time selectors room for their digits' ink.
+    ASSERT_EQ(charge(), -1);
+    const double avant = ui::px_par_twip();
+    const QString style_avant = QApplication::style()->name();
+    QApplication::setStyle(new ui::StyleDuLivre);
+    for (const double echelle : {1.0 / 18, 1.0 / 15, 1.0 / 12}) {
+        ui::fixe_echelle(echelle);
+        Torva1Vue vue(*livre);
+        vue.show();
+        bool vu = false;
+        puis([&](QDialog& d) {
+            vu = true;
+            for (auto* heure : d.findChildren<QComboBox*>()) {
+                // A line writes two pixels from its edge.
+                const QLineEdit* texte = heure->lineEdit();
+                EXPECT_LT(2 + texte->fontMetrics().tightBoundingRect(texte->text()).right(),
+                          texte->width())
+                    << texte->text().toStdString() << " at " << 1 / echelle << " twips a pixel";
+            }
+            clique(d, "Effacer le rendez-vous");
+        });
+        livre->pageg_MouseDown(2000, 3700 + 10);
+        EXPECT_TRUE(vu);
+    }
+    ui::fixe_echelle(avant);
+    QApplication::setStyle(style_avant);
 }
 
 TEST_F(Fenetres, FermerLeLivreLanceLeRetourCommeEchap) {

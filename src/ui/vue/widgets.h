@@ -14,7 +14,6 @@
 #include <QWidget>
 
 class QCalendarWidget;
-
 class QFont;
 class QLabel;
 class QPainter;

@@ -372,12 +372,9 @@ void Detarv::analyse_per() {
 }
 
 std::optional<Detarv::Cellule> Detarv::cellule(int x, int y) const {
-    const auto dedans = [x, y](const ui::RectTwips& r) {
-        return x >= r.left && x < r.left + r.width && y >= r.top && y < r.top + r.height;
-    };
     for (int i = int(sheur.size()) - 1; i >= 0; --i) {
-        if (dedans(sminu[std::size_t(i)])) return Cellule{false, i};
-        if (dedans(sheur[std::size_t(i)])) return Cellule{true, i};
+        if (sminu[std::size_t(i)].contient(x, y)) return Cellule{false, i};
+        if (sheur[std::size_t(i)].contient(x, y)) return Cellule{true, i};
     }
     return std::nullopt;
 }

@@ -8,6 +8,10 @@ namespace agenda::ui {
 struct RectTwips {
     int left = 0, top = 0, width = 0, height = 0;
     bool operator==(const RectTwips&) const = default;
+    // Left and top edges in, right and bottom out, as a control's area.
+    bool contient(int x, int y) const {
+        return x >= left && x < left + width && y >= top && y < top + height;
+    }
 };
 
 // The height of the open book: windows centred on it rather than on the screen.

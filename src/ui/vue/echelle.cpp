@@ -11,11 +11,15 @@
 namespace agenda::ui {
 
 namespace {
-double facteur = 1.0 / 15; // 15 twips a pixel at 96 dpi
+double facteur = 1.0 / twips_par_pixel;
 } // namespace
 
 double px_par_twip() {
     return facteur;
+}
+
+double retrait() {
+    return std::min(1.0, facteur * twips_par_pixel);
 }
 
 void fixe_echelle(double f) {

@@ -14,8 +14,14 @@ class QWidget;
 
 namespace agenda::ui {
 
+// The book as drawn: 15 twips a pixel at 96 dpi.
+inline constexpr double twips_par_pixel = 15;
+
 double px_par_twip();
 void fixe_echelle(double px_par_twip);
+// How much smaller than drawn the book is shown: below 1 on a screen too small for it, 1
+// otherwise. The style's fixed sizes follow it.
+double retrait();
 // The largest factor at which the book fits the screen's free area.
 void echelle_pour_ecran(const QScreen* ecran);
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QIconEngine>
@@ -104,8 +103,9 @@ QString cle(QLatin1StringView sorte, const QString& texte, const T&... valeurs) 
 // The picture kept under `cle`, made the first time by `dessine` on `fond` at its own corner, at
 // `r` on whole device pixels, pixel for pixel: smoothing, which a widget's painter may ask for,
 // would send the copy down the slow way, through the raster engine's threads.
+template <class Dessin>
 void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor& fond,
-                  const std::function<void(QPainter&)>& dessine) {
+                  Dessin&& dessine) {
     QPixmap image;
     if (!QPixmapCache::find(cle, &image)) {
         const qreal echelle = g.device()->devicePixelRatio();
@@ -122,11 +122,6 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, false);
     g.drawPixmap(r.topLeft(), image);
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
-}
-
-// The book's size to the size it is drawn at, 15 twips a pixel, when it is shown smaller.
-double retrait() {
-    return std::min(1.0, px_par_twip() * 15);
 }
 
 } // namespace

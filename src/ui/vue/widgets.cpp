@@ -60,6 +60,19 @@ VueSurface::Fond VueSurface::fond_image(std::function<QPixmap(QSize)> image) {
     };
 }
 
+namespace {
+
+// A background drawn at `pixels` device pixels, on a painter whose unit is the logical pixel.
+void peint_fond(QPainter& g, const VueSurface::Fond& fond, QSize pixels, qreal echelle) {
+    if (!fond) return;
+    g.save();
+    g.scale(1 / echelle, 1 / echelle);
+    fond(g, pixels);
+    g.restore();
+}
+
+} // namespace
+
 QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, bool opaque) {
     // An image, not a pixmap: a background can then blend its grain straight into it.
     QImage image(pixels, opaque ? QImage::Format_RGB888 : QImage::Format_ARGB32_Premultiplied);
@@ -67,8 +80,7 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, 
     image.fill(Qt::transparent);
     if (fond) {
         QPainter g(&image);
-        g.scale(1 / echelle, 1 / echelle);
-        fond(g, pixels);
+        peint_fond(g, fond, pixels, echelle);
     }
     return image;
 }
@@ -76,19 +88,16 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, 
 void VueSurface::paintEvent(QPaintEvent* e) {
     const qreal echelle = devicePixelRatioF();
     const QSize voulu = size() * echelle;
+    const auto peint_dessin = [this](QPainter& p) {
+        if (!surface_) return;
+        p.scale(px_par_twip(), px_par_twip());
+        dessine_surface(p, *surface_);
+    };
     QPainter g(this);
     // Straight on the window where that gives the kept picture's pixels.
     if (!gardee_ && copie_exacte(g, QPointF(0, 0))) {
-        if (fond_) {
-            g.save();
-            g.scale(1 / echelle, 1 / echelle);
-            fond_(g, voulu);
-            g.restore();
-        }
-        if (surface_) {
-            g.scale(px_par_twip(), px_par_twip());
-            dessine_surface(g, *surface_);
-        }
+        peint_fond(g, fond_, voulu, echelle);
+        peint_dessin(g);
         return;
     }
     if (rendu_.size() != voulu) {
@@ -102,8 +111,7 @@ void VueSurface::paintEvent(QPaintEvent* e) {
                      : image_du_fond(fond_, voulu, echelle, opaque);
         if (surface_) {
             QPainter p(&rendu_);
-            p.scale(px_par_twip(), px_par_twip());
-            dessine_surface(p, *surface_);
+            peint_dessin(p);
         }
     }
     // Rectangle by rectangle of what needs repainting: under a clip of many rectangles (the

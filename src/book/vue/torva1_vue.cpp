@@ -7,6 +7,7 @@
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
 #include "ui/vue/impression.h"
+#include "ui/vue/style.h"
 #include "ui/vue/widgets.h"
 
 #include "book/vue/impression.h"
@@ -472,11 +473,10 @@ void Torva1Vue::montre() {
             if (!visible) continue;
             if (b->icon().isNull())
                 b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
-            // The colours change only with the load: a style sheet is parsed only when it does.
-            const QString style = QStringLiteral("QPushButton { background: %1; border: 1px "
-                                                 "solid #5a3a22; border-radius: 6px; }")
-                                      .arg(teinte(l_.couleurs_onglet[std::size_t(i)]));
-            if (b->styleSheet() != style) b->setStyleSheet(style);
+            ui::pose_feuille_empruntee(*b, QStringLiteral("QPushButton { background: %1; "
+                                                          "border: 1px solid #5a3a22; "
+                                                          "border-radius: 6px; }")
+                                               .arg(teinte(l_.couleurs_onglet[std::size_t(i)])));
         }
     }
 

@@ -332,12 +332,10 @@ void DetarvVue::montre() {
         const QSignalBlocker b(combos_[i]);
         combos_[i]->setEditText(l_.*champs_[i]);
     }
-    // A style sheet is parsed only when the switch's colour changes.
     const auto fond = [](QPushButton* b, std::int32_t c) {
-        const QString style = QStringLiteral("QPushButton { background: %1; border: 1px solid "
-                                             "#5a3a22; border-radius: 4px; }")
-                                  .arg(ui::couleur(c).name());
-        if (b->styleSheet() != style) b->setStyleSheet(style);
+        ui::pose_feuille_empruntee(*b, QStringLiteral("QPushButton { background: %1; border: 1px "
+                                                      "solid #5a3a22; border-radius: 4px; }")
+                                           .arg(ui::couleur(c).name()));
     };
     fond(picture3_, l_.Picture3_fond);
     fond(picture4_, l_.picture4_fond);

@@ -5,12 +5,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
+#include <memory>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QPushButton>
 #include <QStyleOptionSlider>
 
 namespace agenda::ui {
@@ -124,7 +127,46 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
+constexpr char feuille_empruntee[] = "agenda-feuille-empruntee";
+
+// The button holding `feuille`, made when a button first borrows it. They go with the
+// application, whose widgets they are.
+using Modeles = std::map<QString, std::unique_ptr<QPushButton>>;
+Modeles& modeles() {
+    static auto* const m = [] {
+        qAddPostRoutine([] { modeles().clear(); });
+        return new Modeles;
+    }();
+    return *m;
+}
+
+const QPushButton* modele(const QString& feuille) {
+    auto& m = modeles()[feuille];
+    if (!m) {
+        m = std::make_unique<QPushButton>();
+        m->setStyleSheet(feuille);
+        m->ensurePolished();
+    }
+    return m.get();
+}
+
 } // namespace
+
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille) {
+    if (bouton.property(feuille_empruntee).toString() == feuille) return;
+    bouton.setProperty(feuille_empruntee, feuille);
+    bouton.update();
+}
+
+void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
+                               const QWidget* widget) const {
+    if (element == CE_PushButton && widget)
+        if (const QVariant feuille = widget->property(feuille_empruntee); feuille.isValid()) {
+            const QWidget* m = modele(feuille.toString());
+            return m->style()->drawControl(element, option, g, m);
+        }
+    QProxyStyle::drawControl(element, option, g, widget);
+}
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,
                                  const QWidget* widget) const {

@@ -1,11 +1,13 @@
 #pragma once
 // The program's widget style: the platform's own, but for the month control's arrows, which are
 // the toolkit's built-in ones on every desktop, as the book draws them, for scroll bars, drawn
-// once for each look they take and then copied, and for the marks of the small controls, which
-// shrink with the book.
+// once for each look they take and then copied, for the marks of the small controls, which
+// shrink with the book, and for buttons drawn under a style sheet they borrow.
 
 #include <QProxyStyle>
 #include <QStyledItemDelegate>
+
+class QPushButton;
 
 namespace agenda::ui {
 
@@ -13,6 +15,8 @@ class StyleDuLivre : public QProxyStyle {
 public:
     QIcon standardIcon(StandardPixmap icone, const QStyleOption* option,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
+                     const QWidget* widget) const override;
     void drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option, QPainter* g,
                             const QWidget* widget) const override;
     // A check box's mark and a list's arrow shrink with a book shown smaller than it is drawn:
@@ -22,6 +26,12 @@ public:
     QRect subControlRect(ComplexControl controle, const QStyleOptionComplex* option,
                          SubControl partie, const QWidget* widget) const override;
 };
+
+// Draws `bouton` as a button holding the style sheet `feuille` is drawn, without giving it the
+// sheet: a button's own sheet is parsed, and the button polished by it, each time it is made,
+// which was a twentieth of the editor's opening for its two half-day switches. The look is
+// drawn by a button that holds the sheet, one for each sheet, never shown and kept.
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
 
 // A grid's cells of plain text on its ground, each drawn once for its look and then copied: the
 // style lays a cell's text out three times at every paint.

@@ -1,13 +1,16 @@
 // Scroll bars and grid cells copied from pictures kept for their looks give the pixels the
 // toolkit's style draws: for every look in turn, first drawn and then copied, at every scale and
-// wherever they stand, on whole device pixels or between them.
+// wherever they stand, on whole device pixels or between them. A button drawn under a borrowed
+// style sheet gives the pixels of one that holds it.
 
 #include "ui/vue/style.h"
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QStyleOptionSlider>
 #include <QTableWidget>
 
@@ -95,4 +98,36 @@ TEST(CellulesGardees, UneGrilleDonneLesPixelsDuStyle) {
         g.fillRect(c.rect, grille.viewport()->palette().base());
         (copiee ? static_cast<QAbstractItemDelegate&>(livre) : qt).paint(&g, c, i);
     });
+}
+
+TEST(StyleDuLivre, UnBoutonQuiEmprunteUneFeuilleDonneSesPixels) {
+    QApplication::setStyle(new StyleDuLivre);
+    const auto feuille = [](const char* fond, int rayon) {
+        return QStringLiteral("QPushButton { background: %1; border: 1px solid #5a3a22; "
+                              "border-radius: %2px; }")
+            .arg(QLatin1String(fond))
+            .arg(rayon);
+    };
+    // The second sheet follows the first on the same button, as a switch's colour changes.
+    const QString feuilles[] = {feuille("#ff8000", 4), feuille("#ffffff", 4),
+                                feuille("#c0ffc0", 6)};
+    // Side by side on one window, whose ground shows round their corners.
+    QWidget fenetre;
+    fenetre.resize(240, 40);
+    QPushButton tenant(QStringLiteral("Après-midi"), &fenetre),
+        emprunteur(QStringLiteral("Après-midi"), &fenetre);
+    for (QPushButton* b : {&tenant, &emprunteur}) {
+        b->setGeometry(b == &tenant ? 1 : 121, 1, 110, 38);
+        b->setFont(QFont(QStringLiteral("DejaVu Sans"), 10, QFont::Bold));
+    }
+    for (const QString& f : feuilles)
+        for (const bool enfonce : {false, true}) {
+            tenant.setStyleSheet(f);
+            pose_feuille_empruntee(emprunteur, f);
+            tenant.setDown(enfonce);
+            emprunteur.setDown(enfonce);
+            const QImage image = fenetre.grab().toImage();
+            EXPECT_EQ(image.copy(tenant.geometry()), image.copy(emprunteur.geometry()))
+                << f.toStdString() << (enfonce ? " pressed" : "");
+        }
 }

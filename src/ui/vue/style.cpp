@@ -127,7 +127,7 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
-constexpr char feuille_empruntee[] = "agenda-feuille-empruntee";
+constexpr char feuille_empruntee[] = "agenda-feuille-empruntee", sol_emprunte[] = "agenda-sol";
 
 // The button holding `feuille`, made when a button first borrows it. They go with the
 // application, whose widgets they are.
@@ -152,20 +152,38 @@ const QPushButton* modele(const QString& feuille) {
 
 } // namespace
 
-void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille) {
-    if (bouton.property(feuille_empruntee).toString() == feuille) return;
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille, const QColor& sol) {
+    if (bouton.property(feuille_empruntee).toString() == feuille &&
+        bouton.property(sol_emprunte).value<QColor>() == sol)
+        return;
     bouton.setProperty(feuille_empruntee, feuille);
+    bouton.setProperty(sol_emprunte, sol.isValid() ? QVariant(sol) : QVariant());
     bouton.update();
 }
 
 void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
                                const QWidget* widget) const {
-    if (element == CE_PushButton && widget)
-        if (const QVariant feuille = widget->property(feuille_empruntee); feuille.isValid()) {
-            const QWidget* m = modele(feuille.toString());
-            return m->style()->drawControl(element, option, g, m);
-        }
-    QProxyStyle::drawControl(element, option, g, widget);
+    const QVariant feuille =
+        element == CE_PushButton && widget ? widget->property(feuille_empruntee) : QVariant();
+    if (!feuille.isValid()) return QProxyStyle::drawControl(element, option, g, widget);
+    const QWidget* m = modele(feuille.toString());
+    const auto* b = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const QVariant sol = widget->property(sol_emprunte);
+    if (!b || !sol.isValid() || !copie_exacte(*g, b->rect.topLeft()))
+        return m->style()->drawControl(element, option, g, m);
+    // Drawn once for each look on the plain ground it stands on, then copied.
+    const QColor fond = sol.value<QColor>();
+    const QString c = cle(QLatin1StringView("agenda-bouton-"), b->text, b->rect.size(),
+                          g->device()->devicePixelRatio(), int(b->state), int(b->features),
+                          b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette),
+                          fond.rgba(), int(b->direction), qHash(feuille.toString()));
+    copie_gardee(*g, b->rect, c, fond, [&](QPainter& p) {
+        p.setFont(g->font());
+        p.setPen(g->pen());
+        p.setBrush(g->brush());
+        p.setLayoutDirection(g->layoutDirection());
+        m->style()->drawControl(element, option, &p, m);
+    });
 }
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,

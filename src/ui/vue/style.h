@@ -4,6 +4,7 @@
 // once for each look they take and then copied, for the marks of the small controls, which
 // shrink with the book, and for buttons drawn under a style sheet they borrow.
 
+#include <QColor>
 #include <QProxyStyle>
 #include <QStyledItemDelegate>
 
@@ -31,7 +32,8 @@ public:
 // sheet: a button's own sheet is parsed, and the button polished by it, each time it is made,
 // which was a twentieth of the editor's opening for its two half-day switches. The look is
 // drawn by a button that holds the sheet, one for each sheet, never shown and kept.
-void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
+// With a `sol`, the plain colour the button stands on, each of its looks is drawn once and kept.
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille, const QColor& sol = {});
 
 // A grid's cells of plain text on its ground, each drawn once for its look and then copied: the
 // style lays a cell's text out three times at every paint.

@@ -112,22 +112,29 @@ TEST(StyleDuLivre, UnBoutonQuiEmprunteUneFeuilleDonneSesPixels) {
     const QString feuilles[] = {feuille("#ff8000", 4), feuille("#ffffff", 4),
                                 feuille("#c0ffc0", 6)};
     // Side by side on one window, whose ground shows round their corners.
+    const QColor sol(0xfb, 0xf6, 0xe8);
     QWidget fenetre;
     fenetre.resize(240, 40);
+    QPalette p = fenetre.palette();
+    p.setColor(QPalette::Window, sol);
+    fenetre.setPalette(p);
+    fenetre.setAutoFillBackground(true);
     QPushButton tenant(QStringLiteral("Après-midi"), &fenetre),
         emprunteur(QStringLiteral("Après-midi"), &fenetre);
     for (QPushButton* b : {&tenant, &emprunteur}) {
         b->setGeometry(b == &tenant ? 1 : 121, 1, 110, 38);
         b->setFont(QFont(QStringLiteral("DejaVu Sans"), 10, QFont::Bold));
     }
-    for (const QString& f : feuilles)
-        for (const bool enfonce : {false, true}) {
-            tenant.setStyleSheet(f);
-            pose_feuille_empruntee(emprunteur, f);
-            tenant.setDown(enfonce);
-            emprunteur.setDown(enfonce);
-            const QImage image = fenetre.grab().toImage();
-            EXPECT_EQ(image.copy(tenant.geometry()), image.copy(emprunteur.geometry()))
-                << f.toStdString() << (enfonce ? " pressed" : "");
-        }
+    // Drawn each time, then kept on the ground it stands on, drawn once and copied.
+    for (const bool garde : {false, true})
+        for (const QString& f : feuilles)
+            for (const bool enfonce : {false, true}) {
+                tenant.setStyleSheet(f);
+                pose_feuille_empruntee(emprunteur, f, garde ? sol : QColor());
+                tenant.setDown(enfonce);
+                emprunteur.setDown(enfonce);
+                const QImage image = fenetre.grab().toImage();
+                EXPECT_EQ(image.copy(tenant.geometry()), image.copy(emprunteur.geometry()))
+                    << f.toStdString() << (enfonce ? " pressed" : "") << (garde ? " kept" : "");
+            }
 }

@@ -42,6 +42,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     const auto label = [&](const RectTwips& r, const QString& t, double pts, bool gras = false) {
         auto* w = new QLabel(t, this);
         ui::place(*w, r);
+        ui::pose_sol_uni(*w, ui::icc::papier);
         w->setFont(police(pts, gras));
         w->setWordWrap(true);
         return w;
@@ -167,9 +168,11 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     };
     picture3_ =
         bouton(Detarv::Picture3_rect, QStringLiteral("Matin"), [this] { l_.Picture3_Click(); });
+    ui::pose_sol_uni(*picture3_, ui::icc::papier);
     picture3_->setToolTip(QStringLiteral("Horloge avant midi de 0h00 à 11h00"));
     picture4_ = bouton(Detarv::picture4_rect, QStringLiteral("Après-midi"),
                        [this] { l_.picture4_Click(); });
+    ui::pose_sol_uni(*picture4_, ui::icc::papier);
     picture4_->setToolTip(QStringLiteral("Horloge aprés-midi de 12h00 à 23h00"));
 
     label(Detarv::debut_rect, QStringLiteral("Début"), 9, true);
@@ -333,11 +336,9 @@ void DetarvVue::montre() {
         combos_[i]->setEditText(l_.*champs_[i]);
     }
     const auto fond = [](QPushButton* b, std::int32_t c) {
-        ui::pose_feuille_empruntee(*b,
-                                   QStringLiteral("QPushButton { background: %1; border: 1px "
-                                                  "solid #5a3a22; border-radius: 4px; }")
-                                       .arg(ui::couleur(c).name()),
-                                   ui::icc::papier);
+        ui::pose_feuille_empruntee(*b, QStringLiteral("QPushButton { background: %1; border: 1px "
+                                                      "solid #5a3a22; border-radius: 4px; }")
+                                           .arg(ui::couleur(c).name()));
     };
     fond(picture3_, l_.Picture3_fond);
     fond(picture4_, l_.picture4_fond);

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QImageReader>
+#include <QLabel>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QPushButton>
@@ -127,7 +128,12 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
-constexpr char feuille_empruntee[] = "agenda-feuille-empruntee", sol_emprunte[] = "agenda-sol";
+constexpr char feuille_empruntee[] = "agenda-feuille-empruntee", sol_uni[] = "agenda-sol-uni";
+
+// The plain colour under `w`, where it has been told.
+QColor sol_de(const QWidget* w) {
+    return w ? w->property(sol_uni).value<QColor>() : QColor();
+}
 
 // The button holding `feuille`, made when a button first borrows it. They go with the
 // application, whose widgets they are.
@@ -152,13 +158,14 @@ const QPushButton* modele(const QString& feuille) {
 
 } // namespace
 
-void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille, const QColor& sol) {
-    if (bouton.property(feuille_empruntee).toString() == feuille &&
-        bouton.property(sol_emprunte).value<QColor>() == sol)
-        return;
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille) {
+    if (bouton.property(feuille_empruntee).toString() == feuille) return;
     bouton.setProperty(feuille_empruntee, feuille);
-    bouton.setProperty(sol_emprunte, sol.isValid() ? QVariant(sol) : QVariant());
     bouton.update();
+}
+
+void pose_sol_uni(QWidget& w, const QColor& sol) {
+    w.setProperty(sol_uni, sol);
 }
 
 void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
@@ -168,11 +175,9 @@ void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* optio
     if (!feuille.isValid()) return QProxyStyle::drawControl(element, option, g, widget);
     const QWidget* m = modele(feuille.toString());
     const auto* b = qstyleoption_cast<const QStyleOptionButton*>(option);
-    const QVariant sol = widget->property(sol_emprunte);
-    if (!b || !sol.isValid() || !copie_exacte(*g, b->rect.topLeft()))
+    const QColor fond = sol_de(widget);
+    if (!b || !fond.isValid() || !copie_exacte(*g, b->rect.topLeft()))
         return m->style()->drawControl(element, option, g, m);
-    // Drawn once for each look on the plain ground it stands on, then copied.
-    const QColor fond = sol.value<QColor>();
     const QString c = cle(QLatin1StringView("agenda-bouton-"), b->text, b->rect.size(),
                           g->device()->devicePixelRatio(), int(b->state), int(b->features),
                           b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette),
@@ -180,9 +185,26 @@ void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* optio
     copie_gardee(*g, b->rect, c, fond, [&](QPainter& p) {
         p.setFont(g->font());
         p.setPen(g->pen());
-        p.setBrush(g->brush());
         p.setLayoutDirection(g->layoutDirection());
         m->style()->drawControl(element, option, &p, m);
+    });
+}
+
+void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QPalette& pal,
+                                bool enabled, const QString& texte,
+                                QPalette::ColorRole role) const {
+    // A caption's text lies straight on its ground; a button's, on its bevel.
+    const QColor fond = sol_de(qobject_cast<const QLabel*>(dynamic_cast<QWidget*>(g->device())));
+    if (!fond.isValid() || texte.isEmpty() || r.isEmpty() || !copie_exacte(*g, r.topLeft()))
+        return QProxyStyle::drawItemText(g, r, flags, pal, enabled, texte, role);
+    const QString c = cle(QLatin1StringView("agenda-texte-"), texte, r.size(),
+                          g->device()->devicePixelRatio(), flags, enabled, int(role), g->font(),
+                          empreinte(pal), fond.rgba(), int(g->layoutDirection()));
+    copie_gardee(*g, r, c, fond, [&](QPainter& p) {
+        p.setFont(g->font());
+        p.setPen(g->pen());
+        p.setLayoutDirection(g->layoutDirection());
+        QProxyStyle::drawItemText(&p, r, flags, pal, enabled, texte, role);
     });
 }
 

@@ -18,6 +18,9 @@ public:
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
                      const QWidget* widget) const override;
+    void drawItemText(QPainter* g, const QRect& r, int flags, const QPalette& pal, bool enabled,
+                      const QString& texte,
+                      QPalette::ColorRole role = QPalette::NoRole) const override;
     void drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option, QPainter* g,
                             const QWidget* widget) const override;
     // A check box's mark and a list's arrow shrink with a book shown smaller than it is drawn:
@@ -32,8 +35,12 @@ public:
 // sheet: a button's own sheet is parsed, and the button polished by it, each time it is made,
 // which was a twentieth of the editor's opening for its two half-day switches. The look is
 // drawn by a button that holds the sheet, one for each sheet, never shown and kept.
-// With a `sol`, the plain colour the button stands on, each of its looks is drawn once and kept.
-void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille, const QColor& sol = {});
+void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
+
+// The plain colour `w` stands on: the style then draws a caption's text, or a button's borrowed
+// sheet, once for each look on that ground, and copies it. A caption's text was laid out
+// and shaped again at every paint, a twentieth of a millisecond for the editor's date.
+void pose_sol_uni(QWidget& w, const QColor& sol);
 
 // A grid's cells of plain text on its ground, each drawn once for its look and then copied: the
 // style lays a cell's text out three times at every paint.

@@ -8,6 +8,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -130,11 +131,58 @@ TEST(StyleDuLivre, UnBoutonQuiEmprunteUneFeuilleDonneSesPixels) {
         for (const QString& f : feuilles)
             for (const bool enfonce : {false, true}) {
                 tenant.setStyleSheet(f);
-                pose_feuille_empruntee(emprunteur, f, garde ? sol : QColor());
+                pose_feuille_empruntee(emprunteur, f);
+                pose_sol_uni(emprunteur, garde ? sol : QColor());
                 tenant.setDown(enfonce);
                 emprunteur.setDown(enfonce);
                 const QImage image = fenetre.grab().toImage();
                 EXPECT_EQ(image.copy(tenant.geometry()), image.copy(emprunteur.geometry()))
                     << f.toStdString() << (enfonce ? " pressed" : "") << (garde ? " kept" : "");
             }
+}
+
+TEST(StyleDuLivre, UnLibelleSurSolUniDonneLesPixelsDuStyle) {
+    QApplication::setStyle(new StyleDuLivre);
+    const QColor sol(0xfb, 0xf6, 0xe8);
+    QWidget fenetre;
+    fenetre.resize(400, 60);
+    QPalette p = fenetre.palette();
+    p.setColor(QPalette::Window, sol);
+    p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x17));
+    fenetre.setPalette(p);
+    fenetre.setAutoFillBackground(true);
+    QLabel dessine(&fenetre), copie(&fenetre);
+    pose_sol_uni(copie, sol);
+    for (QLabel* l : {&dessine, &copie}) {
+        l->setGeometry(l == &dessine ? 0 : 200, 3, 190, 50);
+        l->setWordWrap(true);
+    }
+    // Each look changes what the one before showed: a key that missed it gives the old picture.
+    const std::vector<std::function<void(QLabel&)>> looks = {
+        [](QLabel& l) { l.setText(QStringLiteral("Jeudi 26 novembre 2026")); },
+        [](QLabel& l) {
+            l.setText(QStringLiteral("Cliquez sur les prestations pour les ajouter"));
+        },
+        [](QLabel& l) { l.setFont(QFont(QStringLiteral("DejaVu Serif"), 12, QFont::Bold)); },
+        [](QLabel& l) { l.setAlignment(Qt::AlignRight | Qt::AlignVCenter); },
+        [](QLabel& l) { l.setEnabled(false); },
+        [](QLabel& l) { l.resize(150, 50); },
+    };
+    for (std::size_t look = 0; look < looks.size(); ++look) {
+        looks[look](dessine);
+        looks[look](copie);
+        for (int fois = 0; fois < 2; ++fois) {
+            const QImage image = fenetre.grab().toImage();
+            ASSERT_EQ(image.copy(dessine.geometry()), image.copy(copie.geometry()))
+                << "look " << look << " time " << fois;
+        }
+    }
+    // A button's text lies on its bevel, not on the ground it stands on.
+    QPushButton bouton(QStringLiteral("Valider"), &fenetre),
+        autre(QStringLiteral("Valider"), &fenetre);
+    bouton.setGeometry(0, 5, 120, 40);
+    autre.setGeometry(200, 5, 120, 40);
+    pose_sol_uni(autre, sol);
+    const QImage image = fenetre.grab().toImage();
+    EXPECT_EQ(image.copy(bouton.geometry()), image.copy(autre.geometry()));
 }

@@ -162,17 +162,16 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     const auto bouton = [&](const RectTwips& r, const QString& t, std::function<void()> f) {
         auto* b = new QPushButton(t, this);
         ui::place(*b, r);
+        ui::pose_sol_uni(*b, ui::icc::papier);
         b->setFont(police(10, true));
         connect(b, &QPushButton::clicked, this, [this, f] { appelle(f); });
         return b;
     };
     picture3_ =
         bouton(Detarv::Picture3_rect, QStringLiteral("Matin"), [this] { l_.Picture3_Click(); });
-    ui::pose_sol_uni(*picture3_, ui::icc::papier);
     picture3_->setToolTip(QStringLiteral("Horloge avant midi de 0h00 à 11h00"));
     picture4_ = bouton(Detarv::picture4_rect, QStringLiteral("Après-midi"),
                        [this] { l_.picture4_Click(); });
-    ui::pose_sol_uni(*picture4_, ui::icc::papier);
     picture4_->setToolTip(QStringLiteral("Horloge aprés-midi de 12h00 à 23h00"));
 
     label(Detarv::debut_rect, QStringLiteral("Début"), 9, true);

@@ -170,14 +170,17 @@ void pose_sol_uni(QWidget& w, const QColor& sol) {
 
 void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
                                const QWidget* widget) const {
-    const QVariant feuille =
-        element == CE_PushButton && widget ? widget->property(feuille_empruntee) : QVariant();
-    if (!feuille.isValid()) return QProxyStyle::drawControl(element, option, g, widget);
-    const QWidget* m = modele(feuille.toString());
     const auto* b = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButton || !widget || !b)
+        return QProxyStyle::drawControl(element, option, g, widget);
+    const QVariant feuille = widget->property(feuille_empruntee);
+    const QWidget* m = feuille.isValid() ? modele(feuille.toString()) : nullptr;
+    const auto dessine = [&](QPainter* p) {
+        m ? m->style()->drawControl(element, option, p, m)
+          : QProxyStyle::drawControl(element, option, p, widget);
+    };
     const QColor fond = sol_de(widget);
-    if (!b || !fond.isValid() || !copie_exacte(*g, b->rect.topLeft()))
-        return m->style()->drawControl(element, option, g, m);
+    if (!fond.isValid() || !copie_exacte(*g, b->rect.topLeft())) return dessine(g);
     const QString c = cle(QLatin1StringView("agenda-bouton-"), b->text, b->rect.size(),
                           g->device()->devicePixelRatio(), int(b->state), int(b->features),
                           b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette),
@@ -186,7 +189,7 @@ void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* optio
         p.setFont(g->font());
         p.setPen(g->pen());
         p.setLayoutDirection(g->layoutDirection());
-        m->style()->drawControl(element, option, &p, m);
+        dessine(&p);
     });
 }
 

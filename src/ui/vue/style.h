@@ -37,8 +37,8 @@ public:
 // drawn by a button that holds the sheet, one for each sheet, never shown and kept.
 void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
 
-// The plain colour `w` stands on: the style then draws a caption's text, or a button's borrowed
-// sheet, once for each look on that ground, and copies it. A caption's text was laid out
+// The plain colour `w` stands on: the style then draws a caption's text, or a push button,
+// once for each look on that ground, and copies it. A caption's text was laid out
 // and shaped again at every paint, a twentieth of a millisecond for the editor's date.
 void pose_sol_uni(QWidget& w, const QColor& sol);
 

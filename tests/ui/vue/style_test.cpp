@@ -177,12 +177,18 @@ TEST(StyleDuLivre, UnLibelleSurSolUniDonneLesPixelsDuStyle) {
                 << "look " << look << " time " << fois;
         }
     }
-    // A button's text lies on its bevel, not on the ground it stands on.
+    // A button's text lies on its bevel, not on the ground it stands on; the button is kept whole.
+    dessine.hide();
+    copie.hide();
     QPushButton bouton(QStringLiteral("Valider"), &fenetre),
         autre(QStringLiteral("Valider"), &fenetre);
     bouton.setGeometry(0, 5, 120, 40);
     autre.setGeometry(200, 5, 120, 40);
     pose_sol_uni(autre, sol);
-    const QImage image = fenetre.grab().toImage();
-    EXPECT_EQ(image.copy(bouton.geometry()), image.copy(autre.geometry()));
+    for (const bool enfonce : {false, true, false}) {
+        bouton.setDown(enfonce);
+        autre.setDown(enfonce);
+        const QImage image = fenetre.grab().toImage();
+        EXPECT_EQ(image.copy(bouton.geometry()), image.copy(autre.geometry())) << enfonce;
+    }
 }

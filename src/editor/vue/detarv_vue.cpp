@@ -150,9 +150,12 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
             [this] { appelle([&] { l_.Label7_LostFocus(); }); });
     label9_ = label(Detarv::Label9_rect, {}, 8);
 
-    picture2_ = new ui::VueSurface(
-        this, ui::VueSurface::fond_image([this](QSize t) { return ui::icc::horloge(l_.face, t); }));
+    picture2_ = new ui::VueSurface(this, ui::VueSurface::fond_image([this](QSize t) {
+                                       return ui::icc::horloge_sur(l_.face, t, ui::icc::papier);
+                                   }));
     ui::place(*picture2_, Detarv::Picture2_rect);
+    // Its face covers it whole, on the window's paper: the window need not paint under it.
+    picture2_->setAttribute(Qt::WA_OpaquePaintEvent);
     picture2_->sans_image_gardee(); // every move of the hands redraws the face
     // The cells are places on the face's numbers and dots, found under the pointer: two dozen
     // buttons over them, invisible until pressed, were a sixth of the window's widgets.

@@ -591,6 +591,18 @@ QPixmap horloge(int n, QSize t) {
     });
 }
 
+QPixmap horloge_sur(int n, QSize t, const QColor& fond) {
+    return garde(QStringLiteral("horloge%1-sur-%2").arg(n).arg(fond.rgba()), t, [&] {
+        const QPixmap face = horloge(n, t);
+        QPixmap p(face.size());
+        p.setDevicePixelRatio(face.devicePixelRatio());
+        p.fill(fond);
+        QPainter g(&p);
+        g.drawPixmap(0, 0, face);
+        return p;
+    });
+}
+
 QPixmap palette(QSize t) {
     return garde(QStringLiteral("palette"), t, [&] {
         QPixmap p = vierge(t);

@@ -43,6 +43,8 @@ QPixmap bouton(bool oui, QSize taille);             // the two picture buttons o
 // Clock face n (0 to 6) for a face of 5030 x 5040 twips at this size: numbers on the ring of
 // the hour cells, grey dots on the ring of the minute cells.
 QPixmap horloge(int n, QSize taille);
+// The same on an opaque ground, as it shows there: a window copies it rather than blends it.
+QPixmap horloge_sur(int n, QSize taille, const QColor& fond);
 // Colour swatches; the colour is read from the pixel under the pointer.
 QPixmap palette(QSize taille);
 

@@ -200,9 +200,10 @@ void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QP
     const QColor fond = sol_de(qobject_cast<const QLabel*>(dynamic_cast<QWidget*>(g->device())));
     if (!fond.isValid() || texte.isEmpty() || r.isEmpty() || !copie_exacte(*g, r.topLeft()))
         return QProxyStyle::drawItemText(g, r, flags, pal, enabled, texte, role);
-    const QString c = cle(QLatin1StringView("agenda-texte-"), texte, r.size(),
-                          g->device()->devicePixelRatio(), flags, enabled, int(role), g->font(),
-                          empreinte(pal), fond.rgba(), int(g->layoutDirection()));
+    const QString c =
+        cle(QLatin1StringView("agenda-texte-"), texte, r.size(), g->device()->devicePixelRatio(),
+            flags, enabled, int(role), g->font(), empreinte(pal), g->pen().color().rgba(),
+            fond.rgba(), int(g->layoutDirection()));
     copie_gardee(*g, r, c, fond, [&](QPainter& p) {
         p.setFont(g->font());
         p.setPen(g->pen());

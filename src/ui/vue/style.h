@@ -2,7 +2,8 @@
 // The program's widget style: the platform's own, but for the month control's arrows, which are
 // the toolkit's built-in ones on every desktop, as the book draws them, for scroll bars, drawn
 // once for each look they take and then copied, for the marks of the small controls, which
-// shrink with the book, and for buttons drawn under a style sheet they borrow.
+// shrink with the book, for buttons drawn under a style sheet they borrow, and for captions and
+// buttons told the plain colour they stand on, drawn once for each look and then copied.
 
 #include <QColor>
 #include <QProxyStyle>

@@ -43,6 +43,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
         auto* w = new QLabel(t, this);
         ui::place(*w, r);
         ui::pose_sol_uni(*w, ui::icc::papier);
+        ui::encre_libelle(*w);
         w->setFont(police(pts, gras));
         w->setWordWrap(true);
         return w;

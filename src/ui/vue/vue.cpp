@@ -4,6 +4,7 @@
 #include "ui/geometrie.h"
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
+#include "ui/vue/widgets.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -100,13 +101,8 @@ void VueModale::paintEvent(QPaintEvent*) {
 void VueModale::showEvent(QShowEvent* e) {
     // Every caption the window holds is made by now. One with a style sheet of its own keeps
     // the ink that sheet gives it.
-    for (QLabel* l : findChildren<QLabel*>()) {
-        QPalette p = l->palette();
-        // A caption on a button writes in the button's text colour.
-        for (const QPalette::ColorRole r : {QPalette::WindowText, l->foregroundRole()})
-            p.setColor(r, icc::encre);
-        l->setPalette(p);
-    }
+    for (QLabel* l : findChildren<QLabel*>())
+        encre_libelle(*l);
     QDialog::showEvent(e);
 }
 

@@ -4,6 +4,8 @@
 #include "ui/vue/echelle.h"
 #include "ui/vue/icc.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <QCalendarWidget>
 #include <QGuiApplication>
@@ -251,6 +253,17 @@ QString crlf_vers_ecran(QString s) {
 
 QString ecran_vers_crlf(QString s) {
     return s.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
+
+void encre_libelle(QLabel& l) {
+    QPalette p = l.palette();
+    // A caption on a button writes in the button's text colour.
+    const std::array roles = {QPalette::WindowText, l.foregroundRole()};
+    if (std::ranges::all_of(roles, [&](QPalette::ColorRole r) { return p.color(r) == icc::encre; }))
+        return;
+    for (const QPalette::ColorRole r : roles)
+        p.setColor(r, icc::encre);
+    l.setPalette(p);
 }
 
 QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police) {

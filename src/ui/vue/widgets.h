@@ -99,6 +99,10 @@ QString ecran_vers_crlf(QString s);
 // What a surface recorded, on a painter whose unit is the twip.
 void dessine_surface(QPainter& g, const Surface& surface);
 
+// Writes a caption in the book's ink, unless it already does. Given as the caption is made,
+// before its window shows it, the ink costs a third of what it costs at the show.
+void encre_libelle(QLabel& l);
+
 // A caption at a rectangle in twips, wrapped to its width.
 QLabel* libelle(QWidget& parent, const RectTwips& r, const QString& texte, const QFont& police);
 

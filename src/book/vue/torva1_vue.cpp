@@ -473,10 +473,8 @@ void Torva1Vue::montre() {
             if (!visible) continue;
             if (b->icon().isNull())
                 b->setIcon(gauche ? ui::icc::p11g(i, b->size()) : ui::icc::p11d(i, b->size()));
-            ui::pose_feuille_empruntee(*b, QStringLiteral("QPushButton { background: %1; "
-                                                          "border: 1px solid #5a3a22; "
-                                                          "border-radius: 6px; }")
-                                               .arg(teinte(l_.couleurs_onglet[std::size_t(i)])));
+            ui::pose_feuille_empruntee(
+                *b, ui::feuille_arrondie(teinte(l_.couleurs_onglet[std::size_t(i)]), 6));
         }
     }
 

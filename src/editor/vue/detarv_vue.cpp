@@ -339,9 +339,7 @@ void DetarvVue::montre() {
         combos_[i]->setEditText(l_.*champs_[i]);
     }
     const auto fond = [](QPushButton* b, std::int32_t c) {
-        ui::pose_feuille_empruntee(*b, QStringLiteral("QPushButton { background: %1; border: 1px "
-                                                      "solid #5a3a22; border-radius: 4px; }")
-                                           .arg(ui::couleur(c).name()));
+        ui::pose_feuille_empruntee(*b, ui::feuille_arrondie(ui::couleur(c).name(), 4));
     };
     fond(picture3_, l_.Picture3_fond);
     fond(picture4_, l_.picture4_fond);

@@ -117,6 +117,10 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
         image.setDevicePixelRatio(echelle);
         image.fill(fond);
         QPainter p(&image);
+        // It starts as the window's painter does, with its font, pen and direction.
+        p.setFont(g.font());
+        p.setPen(g.pen());
+        p.setLayoutDirection(g.layoutDirection());
         p.translate(-r.topLeft());
         dessine(p);
         p.end();
@@ -158,9 +162,17 @@ const QPushButton* modele(const QString& feuille) {
 
 } // namespace
 
+QString feuille_arrondie(const QString& fond, int rayon) {
+    return QStringLiteral("QPushButton { background: %1; border: 1px solid #5a3a22; "
+                          "border-radius: %2px; }")
+        .arg(fond)
+        .arg(rayon);
+}
+
 void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille) {
     if (bouton.property(feuille_empruntee).toString() == feuille) return;
-    bouton.setProperty(feuille_empruntee, feuille);
+    // An empty sheet: drawn as its own again.
+    bouton.setProperty(feuille_empruntee, feuille.isEmpty() ? QVariant() : QVariant(feuille));
     bouton.update();
 }
 
@@ -175,22 +187,17 @@ void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* optio
         return QProxyStyle::drawControl(element, option, g, widget);
     const QVariant feuille = widget->property(feuille_empruntee);
     const QWidget* m = feuille.isValid() ? modele(feuille.toString()) : nullptr;
-    const auto dessine = [&](QPainter* p) {
-        m ? m->style()->drawControl(element, option, p, m)
-          : QProxyStyle::drawControl(element, option, p, widget);
+    const auto dessine = [&](QPainter& p) {
+        m ? m->style()->drawControl(element, option, &p, m)
+          : QProxyStyle::drawControl(element, option, &p, widget);
     };
     const QColor fond = sol_de(widget);
-    if (!fond.isValid() || !copie_exacte(*g, b->rect.topLeft())) return dessine(g);
+    if (!fond.isValid() || !copie_exacte(*g, b->rect.topLeft())) return dessine(*g);
     const QString c = cle(QLatin1StringView("agenda-bouton-"), b->text, b->rect.size(),
                           g->device()->devicePixelRatio(), int(b->state), int(b->features),
                           b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette),
                           fond.rgba(), int(b->direction), qHash(feuille.toString()));
-    copie_gardee(*g, b->rect, c, fond, [&](QPainter& p) {
-        p.setFont(g->font());
-        p.setPen(g->pen());
-        p.setLayoutDirection(g->layoutDirection());
-        dessine(&p);
-    });
+    copie_gardee(*g, b->rect, c, fond, dessine);
 }
 
 void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QPalette& pal,
@@ -205,9 +212,6 @@ void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QP
             flags, enabled, int(role), g->font(), empreinte(pal), g->pen().color().rgba(),
             fond.rgba(), int(g->layoutDirection()));
     copie_gardee(*g, r, c, fond, [&](QPainter& p) {
-        p.setFont(g->font());
-        p.setPen(g->pen());
-        p.setLayoutDirection(g->layoutDirection());
         QProxyStyle::drawItemText(&p, r, flags, pal, enabled, texte, role);
     });
 }

@@ -37,6 +37,8 @@ public:
 // which was a twentieth of the editor's opening for its two half-day switches. The look is
 // drawn by a button that holds the sheet, one for each sheet, never shown and kept.
 void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
+// The book's rounded buttons: a ground of their own, the brown line, corners of `rayon` pixels.
+QString feuille_arrondie(const QString& fond, int rayon);
 
 // The plain colour `w` stands on: the style then draws a caption's text, or a push button,
 // once for each look on that ground, and copies it. A caption's text was laid out

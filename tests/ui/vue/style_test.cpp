@@ -101,94 +101,73 @@ TEST(CellulesGardees, UneGrilleDonneLesPixelsDuStyle) {
     });
 }
 
-TEST(StyleDuLivre, UnBoutonQuiEmprunteUneFeuilleDonneSesPixels) {
-    QApplication::setStyle(new StyleDuLivre);
-    const auto feuille = [](const char* fond, int rayon) {
-        return QStringLiteral("QPushButton { background: %1; border: 1px solid #5a3a22; "
-                              "border-radius: %2px; }")
-            .arg(QLatin1String(fond))
-            .arg(rayon);
-    };
-    // The second sheet follows the first on the same button, as a switch's colour changes.
-    const QString feuilles[] = {feuille("#ff8000", 4), feuille("#ffffff", 4),
-                                feuille("#c0ffc0", 6)};
-    // Side by side on one window, whose ground shows round their corners.
-    const QColor sol(0xfb, 0xf6, 0xe8);
-    QWidget fenetre;
-    fenetre.resize(240, 40);
-    QPalette p = fenetre.palette();
-    p.setColor(QPalette::Window, sol);
-    fenetre.setPalette(p);
-    fenetre.setAutoFillBackground(true);
-    QPushButton tenant(QStringLiteral("Après-midi"), &fenetre),
-        emprunteur(QStringLiteral("Après-midi"), &fenetre);
-    for (QPushButton* b : {&tenant, &emprunteur}) {
-        b->setGeometry(b == &tenant ? 1 : 121, 1, 110, 38);
-        b->setFont(QFont(QStringLiteral("DejaVu Sans"), 10, QFont::Bold));
+// Two widgets side by side on a window of a plain ground, which shows round their corners:
+// the one drawn as Qt draws it, the other as the program does, pixel for pixel.
+class SurSolUni : public ::testing::Test {
+protected:
+    void SetUp() override {
+        QApplication::setStyle(new StyleDuLivre);
+        fenetre_.resize(400, 60);
+        QPalette p = fenetre_.palette();
+        p.setColor(QPalette::Window, sol_);
+        p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x17));
+        fenetre_.setPalette(p);
+        fenetre_.setAutoFillBackground(true);
     }
-    // Drawn each time, then kept on the ground it stands on, drawn once and copied.
+    void memes_pixels(const QWidget& qt, const QWidget& livre, const std::string& cas) {
+        const QImage image = fenetre_.grab().toImage();
+        EXPECT_EQ(image.copy(qt.geometry()), image.copy(livre.geometry())) << cas;
+    }
+    const QColor sol_{0xfb, 0xf6, 0xe8};
+    QWidget fenetre_;
+};
+
+TEST_F(SurSolUni, UnBoutonQuiEmprunteUneFeuilleOuGardeSonDessinDonneSesPixels) {
+    // A sheet follows another on the same button, as a switch's colour changes; then buttons of
+    // no sheet, whose text lies on their bevel, not on the ground.
+    QPushButton qt(QStringLiteral("Après-midi"), &fenetre_), livre(qt.text(), &fenetre_),
+        nu(qt.text(), &fenetre_), nu_livre(qt.text(), &fenetre_);
+    for (QPushButton* b : {&qt, &livre, &nu, &nu_livre}) // two shown at a time
+        b->setGeometry(b == &qt || b == &nu ? 1 : 201, 1, 110, 38);
+    const std::pair<QPushButton*, QPushButton*> paires[] = {{&qt, &livre}, {&nu, &nu_livre}};
     for (const bool garde : {false, true})
-        for (const QString& f : feuilles)
+        for (const QString& f : {feuille_arrondie(QStringLiteral("#ff8000"), 4),
+                                 feuille_arrondie(QStringLiteral("#ffffff"), 4),
+                                 feuille_arrondie(QStringLiteral("#c0ffc0"), 6), QString()})
             for (const bool enfonce : {false, true}) {
-                tenant.setStyleSheet(f);
-                pose_feuille_empruntee(emprunteur, f);
-                pose_sol_uni(emprunteur, garde ? sol : QColor());
-                tenant.setDown(enfonce);
-                emprunteur.setDown(enfonce);
-                const QImage image = fenetre.grab().toImage();
-                EXPECT_EQ(image.copy(tenant.geometry()), image.copy(emprunteur.geometry()))
-                    << f.toStdString() << (enfonce ? " pressed" : "") << (garde ? " kept" : "");
+                const auto [a, b] = paires[f.isEmpty() ? 1 : 0];
+                for (QPushButton* x : {&qt, &livre, &nu, &nu_livre})
+                    x->setVisible(x == a || x == b);
+                if (!f.isEmpty()) a->setStyleSheet(f);
+                pose_feuille_empruntee(*b, f);
+                pose_sol_uni(*b, garde ? sol_ : QColor());
+                a->setDown(enfonce);
+                b->setDown(enfonce);
+                memes_pixels(
+                    *a, *b, f.toStdString() + (enfonce ? " pressed" : "") + (garde ? " kept" : ""));
             }
 }
 
-TEST(StyleDuLivre, UnLibelleSurSolUniDonneLesPixelsDuStyle) {
-    QApplication::setStyle(new StyleDuLivre);
-    const QColor sol(0xfb, 0xf6, 0xe8);
-    QWidget fenetre;
-    fenetre.resize(400, 60);
-    QPalette p = fenetre.palette();
-    p.setColor(QPalette::Window, sol);
-    p.setColor(QPalette::WindowText, QColor(0x4a, 0x2c, 0x17));
-    fenetre.setPalette(p);
-    fenetre.setAutoFillBackground(true);
-    QLabel dessine(&fenetre), copie(&fenetre);
-    pose_sol_uni(copie, sol);
-    for (QLabel* l : {&dessine, &copie}) {
-        l->setGeometry(l == &dessine ? 0 : 200, 3, 190, 50);
+TEST_F(SurSolUni, UnLibelleGardeDonneSesPixels) {
+    QLabel qt(&fenetre_), livre(&fenetre_);
+    pose_sol_uni(livre, sol_);
+    for (QLabel* l : {&qt, &livre}) {
+        l->setGeometry(l == &qt ? 0 : 200, 3, 190, 50);
         l->setWordWrap(true);
     }
     // Each look changes what the one before showed: a key that missed it gives the old picture.
     const std::vector<std::function<void(QLabel&)>> looks = {
         [](QLabel& l) { l.setText(QStringLiteral("Jeudi 26 novembre 2026")); },
-        [](QLabel& l) {
-            l.setText(QStringLiteral("Cliquez sur les prestations pour les ajouter"));
-        },
+        [](QLabel& l) { l.setText(QStringLiteral("Cliquez sur les prestations et le temps")); },
         [](QLabel& l) { l.setFont(QFont(QStringLiteral("DejaVu Serif"), 12, QFont::Bold)); },
         [](QLabel& l) { l.setAlignment(Qt::AlignRight | Qt::AlignVCenter); },
         [](QLabel& l) { l.setEnabled(false); },
         [](QLabel& l) { l.resize(150, 50); },
     };
     for (std::size_t look = 0; look < looks.size(); ++look) {
-        looks[look](dessine);
-        looks[look](copie);
-        for (int fois = 0; fois < 2; ++fois) {
-            const QImage image = fenetre.grab().toImage();
-            ASSERT_EQ(image.copy(dessine.geometry()), image.copy(copie.geometry()))
-                << "look " << look << " time " << fois;
-        }
-    }
-    // A button's text lies on its bevel, not on the ground it stands on; the button is kept whole.
-    dessine.hide();
-    copie.hide();
-    QPushButton bouton(QStringLiteral("Valider"), &fenetre),
-        autre(QStringLiteral("Valider"), &fenetre);
-    bouton.setGeometry(0, 5, 120, 40);
-    autre.setGeometry(200, 5, 120, 40);
-    pose_sol_uni(autre, sol);
-    for (const bool enfonce : {false, true, false}) {
-        bouton.setDown(enfonce);
-        autre.setDown(enfonce);
-        const QImage image = fenetre.grab().toImage();
-        EXPECT_EQ(image.copy(bouton.geometry()), image.copy(autre.geometry())) << enfonce;
+        looks[look](qt);
+        looks[look](livre);
+        for (int fois = 0; fois < 2; ++fois)
+            memes_pixels(qt, livre, "look " + std::to_string(look));
     }
 }

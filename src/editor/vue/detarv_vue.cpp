@@ -78,6 +78,7 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
 
     check1_ = new QCheckBox(QStringLiteral("Encadrement"), this);
     ui::place(*check1_, Detarv::Check1_rect);
+    ui::pose_sol_uni(*check1_, ui::icc::papier);
     check1_->setFont(police(10));
     connect(check1_, &QCheckBox::toggled, this, [this](bool oui) { l_.Check1 = oui ? 1 : 0; });
 
@@ -276,7 +277,7 @@ QTableWidget* DetarvVue::grille(const RectTwips& r, int lignes, int colonnes, do
     g->setEditTriggers(QAbstractItemView::NoEditTriggers);
     g->setSelectionMode(QAbstractItemView::NoSelection);
     g->setFont(ui::police(QStringLiteral("DejaVu Sans"), points));
-    g->setItemDelegate(new ui::CellulesGardees(g));
+    ui::garde_cellules(*g);
     g->setColumnCount(colonnes);
     g->setRowCount(lignes);
     return g;

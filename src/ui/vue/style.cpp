@@ -9,6 +9,7 @@
 #include <memory>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QIconEngine>
 #include <QImageReader>
 #include <QLabel>
@@ -132,11 +133,44 @@ void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor&
     g.setRenderHint(QPainter::SmoothPixmapTransform, lisse);
 }
 
-constexpr char feuille_empruntee[] = "agenda-feuille-empruntee", sol_uni[] = "agenda-sol-uni";
+constexpr char feuille_empruntee[] = "agenda-feuille-empruntee", sol_uni[] = "agenda-sol-uni",
+               cellules_gardees[] = "agenda-cellules-gardees";
 
 // The plain colour under `w`, where it has been told.
 QColor sol_de(const QWidget* w) {
     return w ? w->property(sol_uni).value<QColor>() : QColor();
+}
+
+// The widget a text is drawn on, where that text lies straight on the widget's ground: a
+// caption's or a check box's, not a button's, which lies on its bevel.
+const QWidget* texte_sur_son_sol(QPaintDevice* d) {
+    auto* w = dynamic_cast<QWidget*>(d);
+    return qobject_cast<const QLabel*>(w) || qobject_cast<const QCheckBox*>(w) ? w : nullptr;
+}
+
+// A grid's cell drawn once for its look on the grid's plain ground and then copied; `false`
+// where the cell is not plain text on such a ground.
+template <class Dessin>
+bool cellule_gardee(const QStyleOptionViewItem& o, QPainter& g, const QWidget* w,
+                    Dessin&& dessine) {
+    // The picture is made on the grid's ground, which lies under the cell: a plain colour
+    // wherever the cell has no ground, mark or picture of its own.
+    const auto* vue = qobject_cast<const QAbstractItemView*>(w);
+    if (!vue || !vue->property(cellules_gardees).toBool()) return false;
+    const QWidget* sol = vue->viewport();
+    const QBrush fond = sol->palette().brush(sol->backgroundRole());
+    constexpr auto propres = QStyleOptionViewItem::HasCheckIndicator |
+                             QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::Alternate;
+    if (!sol->autoFillBackground() || fond.style() != Qt::SolidPattern || !fond.isOpaque() ||
+        (o.features & propres) || !o.icon.isNull() || o.backgroundBrush.style() != Qt::NoBrush ||
+        !copie_exacte(g, o.rect.topLeft()))
+        return false;
+    const QString c = cle(QLatin1StringView("agenda-cellule-"), o.text, o.rect.size(),
+                          g.device()->devicePixelRatio(), int(o.state), int(o.features),
+                          int(o.displayAlignment), int(o.textElideMode), o.font,
+                          empreinte(o.palette), fond.color().rgba(), int(o.direction));
+    copie_gardee(g, o.rect, c, fond.color(), dessine);
+    return true;
 }
 
 // The button holding `feuille`, made when a button first borrows it. They go with the
@@ -180,8 +214,17 @@ void pose_sol_uni(QWidget& w, const QColor& sol) {
     w.setProperty(sol_uni, sol);
 }
 
+void garde_cellules(QAbstractItemView& grille) {
+    grille.setProperty(cellules_gardees, true);
+}
+
 void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
                                const QWidget* widget) const {
+    if (const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+        element == CE_ItemViewItem && cellule &&
+        cellule_gardee(*cellule, *g, widget,
+                       [&](QPainter& p) { QProxyStyle::drawControl(element, option, &p, widget); }))
+        return;
     const auto* b = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (element != CE_PushButton || !widget || !b)
         return QProxyStyle::drawControl(element, option, g, widget);
@@ -203,8 +246,7 @@ void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* optio
 void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QPalette& pal,
                                 bool enabled, const QString& texte,
                                 QPalette::ColorRole role) const {
-    // A caption's text lies straight on its ground; a button's, on its bevel.
-    const QColor fond = sol_de(qobject_cast<const QLabel*>(dynamic_cast<QWidget*>(g->device())));
+    const QColor fond = sol_de(texte_sur_son_sol(g->device()));
     if (!fond.isValid() || texte.isEmpty() || r.isEmpty() || !copie_exacte(*g, r.topLeft()))
         return QProxyStyle::drawItemText(g, r, flags, pal, enabled, texte, role);
     const QString c =
@@ -277,32 +319,6 @@ QRect StyleDuLivre::subControlRect(ComplexControl controle, const QStyleOptionCo
     if (partie == SC_ComboBoxArrow)
         return inverse ? r.adjusted(0, 0, -cede, 0) : r.adjusted(cede, 0, 0, 0);
     return inverse ? r.adjusted(-cede, 0, 0, 0) : r.adjusted(0, 0, cede, 0);
-}
-
-void CellulesGardees::paint(QPainter* g, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) const {
-    QStyleOptionViewItem o = option;
-    initStyleOption(&o, index);
-    const QWidget* w = o.widget;
-    QStyle* style = w ? w->style() : QApplication::style();
-    // The picture is made on the grid's ground, which lies under the cell: a plain colour
-    // wherever the cell has no ground, mark or picture of its own.
-    const auto* vue = qobject_cast<const QAbstractItemView*>(w);
-    const QWidget* sol = vue ? vue->viewport() : nullptr;
-    const QBrush fond = sol ? sol->palette().brush(sol->backgroundRole()) : QBrush();
-    constexpr auto propres = QStyleOptionViewItem::HasCheckIndicator |
-                             QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::Alternate;
-    if (!sol || !sol->autoFillBackground() || fond.style() != Qt::SolidPattern ||
-        !fond.isOpaque() || (o.features & propres) || !o.icon.isNull() ||
-        o.backgroundBrush.style() != Qt::NoBrush || !copie_exacte(*g, o.rect.topLeft()))
-        return style->drawControl(QStyle::CE_ItemViewItem, &o, g, w);
-    const qreal echelle = g->device()->devicePixelRatio();
-    const QString c =
-        cle(QLatin1StringView("agenda-cellule-"), o.text, o.rect.size(), echelle, int(o.state),
-            int(o.features), int(o.displayAlignment), int(o.textElideMode), o.font,
-            empreinte(o.palette), fond.color().rgba(), int(o.direction));
-    copie_gardee(*g, o.rect, c, fond.color(),
-                 [&](QPainter& p) { style->drawControl(QStyle::CE_ItemViewItem, &o, &p, w); });
 }
 
 } // namespace agenda::ui

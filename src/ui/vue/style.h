@@ -2,13 +2,14 @@
 // The program's widget style: the platform's own, but for the month control's arrows, which are
 // the toolkit's built-in ones on every desktop, as the book draws them, for scroll bars, drawn
 // once for each look they take and then copied, for the marks of the small controls, which
-// shrink with the book, for buttons drawn under a style sheet they borrow, and for captions and
-// buttons told the plain colour they stand on, drawn once for each look and then copied.
+// shrink with the book, for buttons drawn under a style sheet they borrow, and for captions, check
+// boxes, buttons and grids' cells told the plain colour they stand on, drawn once for each look
+// and then copied.
 
 #include <QColor>
 #include <QProxyStyle>
-#include <QStyledItemDelegate>
 
+class QAbstractItemView;
 class QPushButton;
 
 namespace agenda::ui {
@@ -40,18 +41,14 @@ void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
 // The book's rounded buttons: a ground of their own, the brown line, corners of `rayon` pixels.
 QString feuille_arrondie(const QString& fond, int rayon);
 
-// The plain colour `w` stands on: the style then draws a caption's text, or a push button,
-// once for each look on that ground, and copies it. A caption's text was laid out
+// The plain colour `w` stands on: the style then draws a caption's or a check box's text, or a
+// push button, once for each look on that ground, and copies it. A caption's text was laid out
 // and shaped again at every paint, a twentieth of a millisecond for the editor's date.
 void pose_sol_uni(QWidget& w, const QColor& sol);
 
 // A grid's cells of plain text on its ground, each drawn once for its look and then copied: the
-// style lays a cell's text out three times at every paint.
-class CellulesGardees : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    void paint(QPainter* g, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override;
-};
+// style lays a cell's text out three times at every paint. Told by a mark on the grid rather than
+// by a delegate of its own, whose signals cost a grid as much to connect as it saved to paint.
+void garde_cellules(QAbstractItemView& grille);
 
 } // namespace agenda::ui

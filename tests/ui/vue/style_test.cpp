@@ -8,10 +8,12 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QStyleOptionSlider>
 #include <QTableWidget>
 
@@ -75,17 +77,21 @@ TEST(StyleDuLivre, UneBarreCopieeDonneLesPixelsDuStyle) {
     });
 }
 
-TEST(CellulesGardees, UneGrilleDonneLesPixelsDuStyle) {
+TEST(StyleDuLivre, UneGrilleAuxCellulesGardeesDonneLesPixelsDuStyle) {
     QTableWidget grille(2, 3);
     grille.resize(260, 130);
+    garde_cellules(grille);
     const char* textes[] = {"-10", "1h30", "", "Brushing long", "é€œ", "2h00"};
     for (int i = 0; i < 6; ++i) {
         auto* item = new QTableWidgetItem(QString::fromUtf8(textes[i]));
         item->setTextAlignment(i % 2 ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
         grille.setItem(i / 3, i % 3, item);
     }
-    QStyledItemDelegate qt;
-    CellulesGardees livre;
+    struct Cellule : QStyledItemDelegate {
+        using QStyledItemDelegate::initStyleOption;
+    } cellule;
+    QProxyStyle qt;
+    StyleDuLivre livre;
     QStyleOptionViewItem o;
     o.initFrom(&grille);
     o.widget = &grille;
@@ -93,11 +99,12 @@ TEST(CellulesGardees, UneGrilleDonneLesPixelsDuStyle) {
     // Every cell in turn, then as the current one, then in another font.
     memes_pixels(8, o.rect, [&](int look, QPainter& g, bool copiee) {
         QStyleOptionViewItem c = o;
+        cellule.initStyleOption(&c, grille.model()->index(look % 6 / 3, look % 3));
         if (look == 6) c.state |= QStyle::State_HasFocus;
         if (look == 7) c.font = QFont(QStringLiteral("DejaVu Serif"), 11);
-        const QModelIndex i = grille.model()->index(look % 6 / 3, look % 3);
         g.fillRect(c.rect, grille.viewport()->palette().base());
-        (copiee ? static_cast<QAbstractItemDelegate&>(livre) : qt).paint(&g, c, i);
+        (copiee ? static_cast<QStyle&>(livre) : qt)
+            .drawControl(QStyle::CE_ItemViewItem, &c, &g, &grille);
     });
 }
 
@@ -163,6 +170,25 @@ TEST_F(SurSolUni, UnLibelleGardeDonneSesPixels) {
         [](QLabel& l) { l.setAlignment(Qt::AlignRight | Qt::AlignVCenter); },
         [](QLabel& l) { l.setEnabled(false); },
         [](QLabel& l) { l.resize(150, 50); },
+    };
+    for (std::size_t look = 0; look < looks.size(); ++look) {
+        looks[look](qt);
+        looks[look](livre);
+        for (int fois = 0; fois < 2; ++fois)
+            memes_pixels(qt, livre, "look " + std::to_string(look));
+    }
+}
+
+TEST_F(SurSolUni, UneCaseACocherGardeeDonneSesPixels) {
+    QCheckBox qt(QStringLiteral("Encadrement"), &fenetre_), livre(qt.text(), &fenetre_);
+    pose_sol_uni(livre, sol_);
+    qt.setGeometry(0, 3, 190, 30);
+    livre.setGeometry(200, 3, 190, 30);
+    const std::vector<std::function<void(QCheckBox&)>> looks = {
+        [](QCheckBox&) {},
+        [](QCheckBox& c) { c.setChecked(true); },
+        [](QCheckBox& c) { c.setText(QStringLiteral("Après-midi")); },
+        [](QCheckBox& c) { c.setEnabled(false); },
     };
     for (std::size_t look = 0; look < looks.size(); ++look) {
         looks[look](qt);

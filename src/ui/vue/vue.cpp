@@ -6,9 +6,15 @@
 #include "ui/vue/icc.h"
 #include "ui/vue/widgets.h"
 
+#include <cstdint>
+#include <QImage>
 #include <QLabel>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTimer>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace agenda::ui {
@@ -23,6 +29,26 @@ QWidget* dessus() {
     for (auto it = pile().rbegin(); it != pile().rend(); ++it)
         if (*it) return *it;
     return nullptr;
+}
+
+// A new window's picture is fresh memory, which its first paint touched page by page, a fault
+// for each: a fifth of the editor's opening. Asked of the system in one call, the pages come at
+// once. Where the system cannot, the paint touches them as before.
+void prend_la_memoire(const QPainter& g) {
+#ifdef MADV_POPULATE_WRITE
+    const QPaintEngine* moteur = g.paintEngine();
+    const QPaintDevice* d = moteur ? moteur->paintDevice() : nullptr;
+    if (!d || d->devType() != QInternal::Image) return;
+    const auto& image = *static_cast<const QImage*>(d);
+    const auto page = std::uintptr_t(sysconf(_SC_PAGESIZE));
+    const auto debut = reinterpret_cast<std::uintptr_t>(image.constBits());
+    // The whole pages of the picture: the paint touches those it shares with other memory.
+    const std::uintptr_t a = (debut + page - 1) / page * page,
+                         b = (debut + std::uintptr_t(image.sizeInBytes())) / page * page;
+    if (b > a) madvise(reinterpret_cast<void*>(a), b - a, MADV_POPULATE_WRITE);
+#else
+    Q_UNUSED(g);
+#endif
 }
 } // namespace
 
@@ -84,6 +110,7 @@ void VueModale::pose_cadre(int coin) {
 
 void VueModale::paintEvent(QPaintEvent*) {
     QPainter g(this);
+    if (!std::exchange(memoire_prise_, true)) prend_la_memoire(g);
     g.fillRect(rect(), icc::papier);
     if (coin_cadre_ == 0) return;
     // Painted on the paper rather than held by eight widgets under the others: a window opens

@@ -63,6 +63,7 @@ protected:
 private:
     FenetreModale& modale_;
     int coin_cadre_ = 0; // no frame
+    bool memoire_prise_ = false;
 };
 
 // The one registration of a window: its logic's type and its view.

@@ -95,17 +95,22 @@ const std::array<std::array<const char*, 4>, 4> Detarv::g2 = {{
     {"1h00", "1h15", "1h30", "2h00"},
 }};
 
-QStringList Detarv::heures() {
+namespace {
+QStringList de_pas(int fin, int pas) {
     QStringList l;
-    for (int h = 0; h < 24; ++h)
-        l << motif_zeros(h, 2);
+    for (int v = 0; v < fin; v += pas)
+        l << motif_zeros(v, 2);
+    return l;
+}
+} // namespace
+
+const QStringList& Detarv::heures() {
+    static const QStringList l = de_pas(24, 1);
     return l;
 }
 
-QStringList Detarv::minutes() {
-    QStringList l;
-    for (int m = 0; m < 60; m += 5)
-        l << motif_zeros(m, 2);
+const QStringList& Detarv::minutes() {
+    static const QStringList l = de_pas(60, 5);
     return l;
 }
 
@@ -145,7 +150,7 @@ void Detarv::lit_horloge() {
 
 void Detarv::init_rv() {
     const int h = etat.heure_clic;
-    const QStringList liste = heures();
+    const QStringList& liste = heures();
     etape([&] { Check2 = h >= 12 ? 1 : 0; });
     // An hour past the list (23 + 1) leaves the end empty; the end is computed again anyway.
     etape([&] { Combo1 = liste.value(h); });

@@ -78,8 +78,8 @@ public:
     void g2_Click(int ligne, int colonne);
 
     // The selectors' lists: hours "00" to "23", minutes "00" to "55".
-    static QStringList heures();
-    static QStringList minutes();
+    static const QStringList& heures();
+    static const QStringList& minutes();
 
     // Where the controls stand, in twips of the window.
     static constexpr int largeur = 14400, hauteur = 10200;

@@ -44,7 +44,8 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
         ui::place(*w, r);
         ui::pose_sol_uni(*w, ui::icc::papier);
         ui::encre_libelle(*w);
-        w->setFont(police(pts, gras));
+        // Given only where it is not the window's, which each takes as it is made.
+        if (const QFont f = police(pts, gras); f != font()) w->setFont(f);
         w->setWordWrap(true);
         return w;
     };
@@ -79,14 +80,12 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
     check1_ = new QCheckBox(QStringLiteral("Encadrement"), this);
     ui::place(*check1_, Detarv::Check1_rect);
     ui::pose_sol_uni(*check1_, ui::icc::papier);
-    check1_->setFont(police(10));
     connect(check1_, &QCheckBox::toggled, this, [this](bool oui) { l_.Check1 = oui ? 1 : 0; });
 
     label15_ = label(Detarv::Label15_rect, {}, 10);
     label15_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     text2_ = new QLineEdit(this);
     ui::place(*text2_, Detarv::Text2_rect);
-    text2_->setFont(police(10));
     connect(text2_, &QLineEdit::textEdited, this, [this](const QString& t) { l_.Text2 = t; });
     text2_->installEventFilter(this);
 

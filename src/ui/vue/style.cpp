@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QStringBuilder>
 #include <QStyleOptionSlider>
 
 namespace agenda::ui {
@@ -102,7 +103,7 @@ std::size_t empreinte(const QPalette& p) {
 // The key of a kept picture: its kind, what its look depends on, and its text.
 template <class... T>
 QString cle(QLatin1StringView sorte, const QString& texte, const T&... valeurs) {
-    return sorte + QString::number(qHashMulti(0, valeurs...), 36) + QLatin1Char('|') + texte;
+    return sorte % QString::number(qHashMulti(0, valeurs...), 36) % QLatin1Char('|') % texte;
 }
 
 // The picture kept under `cle`, made the first time by `dessine` on `fond` at its own corner, at

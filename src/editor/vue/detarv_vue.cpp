@@ -94,8 +94,9 @@ DetarvVue::DetarvVue(Detarv& l) : VueModale(l, Detarv::largeur, Detarv::hauteur)
                            std::function<void()> f) {
         auto* b = new QToolButton(this);
         ui::place(*b, r);
+        ui::pose_sol_uni(*b, ui::icc::papier);
         b->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        b->setIcon(p);
+        b->setIcon(ui::icc::icone_de(p));
         b->setIconSize(QSize(b->height() * 4 / 5, b->height() * 4 / 5));
         b->setText(aide);
         b->setFont(police(8, true));

@@ -693,6 +693,14 @@ void buste(QPainter& g, QSize t, QColor habit) {
 
 } // namespace
 
+QIcon icone_de(const QPixmap& image) {
+    // The store's pictures live as long as the program, and no two share a key.
+    static auto* icones = new QHash<qint64, QIcon>;
+    auto it = icones->find(image.cacheKey());
+    if (it == icones->end()) it = icones->insert(image.cacheKey(), QIcon(image));
+    return *it;
+}
+
 QPixmap visage(int i, QSize t) {
     return dessin(QStringLiteral("visage%1").arg(i), t, [&](QPainter& g) {
         const qreal w = t.width(), h = t.height();

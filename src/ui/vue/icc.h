@@ -4,6 +4,7 @@
 // finest screen's device pixels for it.
 
 #include <QColor>
+#include <QIcon>
 #include <QImage>
 #include <QPicture>
 #include <QPixmap>
@@ -55,6 +56,9 @@ QPixmap touche(QSize taille);
 QPixmap nouveau_client(QSize taille);
 // The client card's four classes: a lady, a young lady, a man, an older man with a beard.
 QPixmap visage(int i, QSize taille);
+// The icon of one of the store's pictures, kept with it: a button showing it is then known by its
+// icon from one window to the next, and the style's copy of the button serves again.
+QIcon icone_de(const QPixmap& image);
 
 // The planning's buttons: the transfer, the date chooser, the way out.
 QPixmap transfert(QSize taille);

@@ -271,6 +271,23 @@ QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* optio
 
 void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptionComplex* option,
                                       QPainter* g, const QWidget* widget) const {
+    // A tool button with its picture and its text, on a plain ground: a twentieth of a
+    // millisecond for each of the editor's two at every opening.
+    if (const auto* outil = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        controle == CC_ToolButton && outil) {
+        const QColor fond = sol_de(widget);
+        if (!fond.isValid() || !copie_exacte(*g, outil->rect.topLeft()))
+            return QProxyStyle::drawComplexControl(controle, option, g, widget);
+        const QString c =
+            cle(QLatin1StringView("agenda-outil-"), outil->text, outil->rect.size(),
+                g->device()->devicePixelRatio(), int(outil->state), int(outil->subControls),
+                int(outil->activeSubControls), int(outil->features), outil->icon.cacheKey(),
+                outil->iconSize, int(outil->toolButtonStyle), int(outil->arrowType), outil->font,
+                g->font(), empreinte(outil->palette), fond.rgba(), int(outil->direction));
+        return copie_gardee(*g, outil->rect, c, fond, [&](QPainter& p) {
+            QProxyStyle::drawComplexControl(controle, option, &p, widget);
+        });
+    }
     // A scroll bar's lines and gradients are hundreds of lines tall, each of which the raster
     // engine hands to other threads and waits for: two tenths of a millisecond for the services'
     // bar at every opening of the editor. Its look depends on nothing but what the key holds.

@@ -2,9 +2,9 @@
 // The program's widget style: the platform's own, but for the month control's arrows, which are
 // the toolkit's built-in ones on every desktop, as the book draws them, for scroll bars, drawn
 // once for each look they take and then copied, for the marks of the small controls, which
-// shrink with the book, for buttons drawn under a style sheet they borrow, and for captions, check
-// boxes, buttons and grids' cells told the plain colour they stand on, drawn once for each look
-// and then copied.
+// shrink with the book, for buttons drawn under a style sheet they borrow, and for captions,
+// check boxes, buttons, tool buttons and grids' cells told the plain colour they stand on, drawn
+// once for each look and then copied.
 
 #include <QColor>
 #include <QProxyStyle>
@@ -42,8 +42,8 @@ void pose_feuille_empruntee(QPushButton& bouton, const QString& feuille);
 QString feuille_arrondie(const QString& fond, int rayon);
 
 // The plain colour `w` stands on: the style then draws a caption's or a check box's text, or a
-// push button, once for each look on that ground, and copies it. A caption's text was laid out
-// and shaped again at every paint, a twentieth of a millisecond for the editor's date.
+// push or tool button, once for each look on that ground, and copies it. A caption's text was laid
+// out and shaped again at every paint, a twentieth of a millisecond for the editor's date.
 void pose_sol_uni(QWidget& w, const QColor& sol);
 
 // A grid's cells of plain text on its ground, each drawn once for its look and then copied: the

@@ -16,6 +16,7 @@
 #include <QStyledItemDelegate>
 #include <QStyleOptionSlider>
 #include <QTableWidget>
+#include <QToolButton>
 
 using namespace agenda::ui;
 
@@ -195,5 +196,33 @@ TEST_F(SurSolUni, UneCaseACocherGardeeDonneSesPixels) {
         looks[look](livre);
         for (int fois = 0; fois < 2; ++fois)
             memes_pixels(qt, livre, "look " + std::to_string(look));
+    }
+}
+
+TEST_F(SurSolUni, UnOutilGardeDonneSesPixels) {
+    QPixmap visage(24, 24), autre(24, 24);
+    visage.fill(Qt::darkGreen);
+    autre.fill(Qt::darkRed);
+    QToolButton qt(&fenetre_), livre(&fenetre_);
+    pose_sol_uni(livre, sol_);
+    const std::vector<std::function<void(QToolButton&)>> looks = {
+        [&](QToolButton& b) {
+            b.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+            b.setIcon(visage);
+            b.setText(QStringLiteral("Client..."));
+        },
+        [](QToolButton& b) { b.setDown(true); },
+        [](QToolButton& b) { b.setText(QStringLiteral("Fiche")); },
+        [&](QToolButton& b) { b.setIcon(autre); },
+        [](QToolButton& b) { b.setIconSize(QSize(16, 16)); },
+        [](QToolButton& b) { b.setFont(QFont(QStringLiteral("DejaVu Sans"), 8, QFont::Bold)); },
+        [](QToolButton& b) { b.setEnabled(false); },
+    };
+    for (QToolButton* b : {&qt, &livre})
+        b->setGeometry(b == &qt ? 1 : 201, 1, 120, 40);
+    for (std::size_t look = 0; look < looks.size(); ++look) {
+        looks[look](qt);
+        looks[look](livre);
+        memes_pixels(qt, livre, "look " + std::to_string(look));
     }
 }

@@ -100,21 +100,20 @@ std::size_t empreinte(const QPalette& p) {
     return h;
 }
 
-// The key of a kept picture: its kind, what its look depends on, and its text.
-template <class... T>
-QString cle(QLatin1StringView sorte, const QString& texte, const T&... valeurs) {
-    return sorte % QString::number(qHashMulti(0, valeurs...), 36) % QLatin1Char('|') % texte;
-}
-
-// The picture kept under `cle`, made the first time by `dessine` on `fond` at its own corner, at
-// `r` on whole device pixels, pixel for pixel: smoothing, which a widget's painter may ask for,
-// would send the copy down the slow way, through the raster engine's threads.
-template <class Dessin>
-void copie_gardee(QPainter& g, const QRect& r, const QString& cle, const QColor& fond,
-                  Dessin&& dessine) {
+// Draws `r` by `dessine`: straight on `g` where there is no plain ground `fond` or `r` is not on
+// whole device pixels, and otherwise through the picture kept for its look, made the first time
+// on `fond` at its own corner and then copied pixel for pixel. The look is `sorte`, `texte` and
+// `valeurs`, with the size and the screen's scale. Smoothing, which a widget's painter may ask
+// for, would send the copy down the slow way, through the raster engine's threads.
+template <class Dessin, class... T>
+void garde_ou_dessine(QPainter& g, const QRect& r, const QColor& fond, Dessin&& dessine,
+                      QLatin1StringView sorte, const QString& texte, const T&... valeurs) {
+    if (!fond.isValid() || !copie_exacte(g, r.topLeft())) return dessine(g);
+    const qreal echelle = g.device()->devicePixelRatio();
+    const QString cle = sorte % QString::number(qHashMulti(0, r.size(), echelle, valeurs...), 36) %
+                        QLatin1Char('|') % texte;
     QPixmap image;
     if (!QPixmapCache::find(cle, &image)) {
-        const qreal echelle = g.device()->devicePixelRatio();
         image = QPixmap(r.size() * echelle);
         image.setDevicePixelRatio(echelle);
         image.fill(fond);
@@ -149,29 +148,19 @@ const QWidget* texte_sur_son_sol(QPaintDevice* d) {
     return qobject_cast<const QLabel*>(w) || qobject_cast<const QCheckBox*>(w) ? w : nullptr;
 }
 
-// A grid's cell drawn once for its look on the grid's plain ground and then copied; `false`
-// where the cell is not plain text on such a ground.
-template <class Dessin>
-bool cellule_gardee(const QStyleOptionViewItem& o, QPainter& g, const QWidget* w,
-                    Dessin&& dessine) {
-    // The picture is made on the grid's ground, which lies under the cell: a plain colour
-    // wherever the cell has no ground, mark or picture of its own.
+// The plain ground a grid's cell lies on, where the grid keeps its cells' pictures and the cell
+// is plain text: no ground, mark or picture of its own over the grid's.
+QColor sol_de_cellule(const QStyleOptionViewItem& o, const QWidget* w) {
     const auto* vue = qobject_cast<const QAbstractItemView*>(w);
-    if (!vue || !vue->property(cellules_gardees).toBool()) return false;
+    if (!vue || !vue->property(cellules_gardees).toBool()) return {};
     const QWidget* sol = vue->viewport();
     const QBrush fond = sol->palette().brush(sol->backgroundRole());
     constexpr auto propres = QStyleOptionViewItem::HasCheckIndicator |
                              QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::Alternate;
     if (!sol->autoFillBackground() || fond.style() != Qt::SolidPattern || !fond.isOpaque() ||
-        (o.features & propres) || !o.icon.isNull() || o.backgroundBrush.style() != Qt::NoBrush ||
-        !copie_exacte(g, o.rect.topLeft()))
-        return false;
-    const QString c = cle(QLatin1StringView("agenda-cellule-"), o.text, o.rect.size(),
-                          g.device()->devicePixelRatio(), int(o.state), int(o.features),
-                          int(o.displayAlignment), int(o.textElideMode), o.font,
-                          empreinte(o.palette), fond.color().rgba(), int(o.direction));
-    copie_gardee(g, o.rect, c, fond.color(), dessine);
-    return true;
+        (o.features & propres) || !o.icon.isNull() || o.backgroundBrush.style() != Qt::NoBrush)
+        return {};
+    return fond.color();
 }
 
 // The button holding `feuille`, made when a button first borrows it. They go with the
@@ -221,42 +210,42 @@ void garde_cellules(QAbstractItemView& grille) {
 
 void StyleDuLivre::drawControl(ControlElement element, const QStyleOption* option, QPainter* g,
                                const QWidget* widget) const {
-    if (const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-        element == CE_ItemViewItem && cellule &&
-        cellule_gardee(*cellule, *g, widget,
-                       [&](QPainter& p) { QProxyStyle::drawControl(element, option, &p, widget); }))
-        return;
+    const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option);
     const auto* b = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_ItemViewItem && cellule) {
+        const QColor fond = sol_de_cellule(*cellule, widget);
+        return garde_ou_dessine(
+            *g, cellule->rect, fond,
+            [&](QPainter& p) { QProxyStyle::drawControl(element, option, &p, widget); },
+            QLatin1StringView("agenda-cellule-"), cellule->text, int(cellule->state),
+            int(cellule->features), int(cellule->displayAlignment), int(cellule->textElideMode),
+            cellule->font, empreinte(cellule->palette), fond.rgba(), int(cellule->direction));
+    }
     if (element != CE_PushButton || !widget || !b)
         return QProxyStyle::drawControl(element, option, g, widget);
     const QVariant feuille = widget->property(feuille_empruntee);
     const QWidget* m = feuille.isValid() ? modele(feuille.toString()) : nullptr;
-    const auto dessine = [&](QPainter& p) {
-        m ? m->style()->drawControl(element, option, &p, m)
-          : QProxyStyle::drawControl(element, option, &p, widget);
-    };
     const QColor fond = sol_de(widget);
-    if (!fond.isValid() || !copie_exacte(*g, b->rect.topLeft())) return dessine(*g);
-    const QString c = cle(QLatin1StringView("agenda-bouton-"), b->text, b->rect.size(),
-                          g->device()->devicePixelRatio(), int(b->state), int(b->features),
-                          b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette),
-                          fond.rgba(), int(b->direction), qHash(feuille.toString()));
-    copie_gardee(*g, b->rect, c, fond, dessine);
+    garde_ou_dessine(
+        *g, b->rect, fond,
+        [&](QPainter& p) {
+            m ? m->style()->drawControl(element, option, &p, m)
+              : QProxyStyle::drawControl(element, option, &p, widget);
+        },
+        QLatin1StringView("agenda-bouton-"), b->text, int(b->state), int(b->features),
+        b->icon.cacheKey(), b->iconSize, g->font(), empreinte(b->palette), fond.rgba(),
+        int(b->direction), qHash(feuille.toString()));
 }
 
 void StyleDuLivre::drawItemText(QPainter* g, const QRect& r, int flags, const QPalette& pal,
                                 bool enabled, const QString& texte,
                                 QPalette::ColorRole role) const {
     const QColor fond = sol_de(texte_sur_son_sol(g->device()));
-    if (!fond.isValid() || texte.isEmpty() || r.isEmpty() || !copie_exacte(*g, r.topLeft()))
-        return QProxyStyle::drawItemText(g, r, flags, pal, enabled, texte, role);
-    const QString c =
-        cle(QLatin1StringView("agenda-texte-"), texte, r.size(), g->device()->devicePixelRatio(),
-            flags, enabled, int(role), g->font(), empreinte(pal), g->pen().color().rgba(),
-            fond.rgba(), int(g->layoutDirection()));
-    copie_gardee(*g, r, c, fond, [&](QPainter& p) {
-        QProxyStyle::drawItemText(&p, r, flags, pal, enabled, texte, role);
-    });
+    garde_ou_dessine(
+        *g, r, texte.isEmpty() || r.isEmpty() ? QColor() : fond,
+        [&](QPainter& p) { QProxyStyle::drawItemText(&p, r, flags, pal, enabled, texte, role); },
+        QLatin1StringView("agenda-texte-"), texte, flags, enabled, int(role), g->font(),
+        empreinte(pal), g->pen().color().rgba(), fond.rgba(), int(g->layoutDirection()));
 }
 
 QIcon StyleDuLivre::standardIcon(StandardPixmap icone, const QStyleOption* option,
@@ -276,17 +265,14 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
     if (const auto* outil = qstyleoption_cast<const QStyleOptionToolButton*>(option);
         controle == CC_ToolButton && outil) {
         const QColor fond = sol_de(widget);
-        if (!fond.isValid() || !copie_exacte(*g, outil->rect.topLeft()))
-            return QProxyStyle::drawComplexControl(controle, option, g, widget);
-        const QString c =
-            cle(QLatin1StringView("agenda-outil-"), outil->text, outil->rect.size(),
-                g->device()->devicePixelRatio(), int(outil->state), int(outil->subControls),
-                int(outil->activeSubControls), int(outil->features), outil->icon.cacheKey(),
-                outil->iconSize, int(outil->toolButtonStyle), int(outil->arrowType), outil->font,
-                g->font(), empreinte(outil->palette), fond.rgba(), int(outil->direction));
-        return copie_gardee(*g, outil->rect, c, fond, [&](QPainter& p) {
-            QProxyStyle::drawComplexControl(controle, option, &p, widget);
-        });
+        return garde_ou_dessine(
+            *g, outil->rect, fond,
+            [&](QPainter& p) { QProxyStyle::drawComplexControl(controle, option, &p, widget); },
+            QLatin1StringView("agenda-outil-"), outil->text, int(outil->state),
+            int(outil->subControls), int(outil->activeSubControls), int(outil->features),
+            outil->icon.cacheKey(), outil->iconSize, int(outil->toolButtonStyle),
+            int(outil->arrowType), outil->font, g->font(), empreinte(outil->palette), fond.rgba(),
+            int(outil->direction));
     }
     // A scroll bar's lines and gradients are hundreds of lines tall, each of which the raster
     // engine hands to other threads and waits for: two tenths of a millisecond for the services'
@@ -294,18 +280,15 @@ void StyleDuLivre::drawComplexControl(ComplexControl controle, const QStyleOptio
     // Copied only where the bar starts on a whole device pixel, as its picture does, and is not
     // scaled: elsewhere, its lines would fall on other pixels than the bar's own.
     const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (controle != CC_ScrollBar || !barre || !copie_exacte(*g, barre->rect.topLeft()))
+    if (controle != CC_ScrollBar || !barre)
         return QProxyStyle::drawComplexControl(controle, option, g, widget);
-    const qreal echelle = g->device()->devicePixelRatio();
-    const QString c =
-        cle(QLatin1StringView("agenda-barre-"), QString(), barre->rect.size(), echelle,
-            int(barre->state), int(barre->subControls), int(barre->activeSubControls),
-            barre->minimum, barre->maximum, barre->sliderPosition, barre->sliderValue,
-            barre->pageStep, barre->singleStep, int(barre->orientation), barre->upsideDown,
-            empreinte(barre->palette), int(barre->direction));
-    copie_gardee(*g, barre->rect, c, Qt::transparent, [&](QPainter& p) {
-        QProxyStyle::drawComplexControl(controle, barre, &p, widget);
-    });
+    garde_ou_dessine(
+        *g, barre->rect, Qt::transparent,
+        [&](QPainter& p) { QProxyStyle::drawComplexControl(controle, barre, &p, widget); },
+        QLatin1StringView("agenda-barre-"), QString(), int(barre->state), int(barre->subControls),
+        int(barre->activeSubControls), barre->minimum, barre->maximum, barre->sliderPosition,
+        barre->sliderValue, barre->pageStep, barre->singleStep, int(barre->orientation),
+        barre->upsideDown, empreinte(barre->palette), int(barre->direction));
 }
 
 int StyleDuLivre::pixelMetric(PixelMetric mesure, const QStyleOption* option,

@@ -17,6 +17,7 @@
 #include <QStyleOptionSlider>
 #include <QTableWidget>
 #include <QToolButton>
+#include <typeinfo>
 
 using namespace agenda::ui;
 
@@ -126,6 +127,21 @@ protected:
         const QImage image = fenetre_.grab().toImage();
         EXPECT_EQ(image.copy(qt.geometry()), image.copy(livre.geometry())) << cas;
     }
+    // A widget of Qt's and one told its ground, through looks that each change what the one
+    // before showed: a key that missed a look gives the old picture, drawn or copied.
+    template <class W>
+    void memes_looks(const std::vector<std::function<void(W&)>>& looks) {
+        W qt(&fenetre_), livre(&fenetre_);
+        pose_sol_uni(livre, sol_);
+        qt.setGeometry(1, 3, 190, 50);
+        livre.setGeometry(201, 3, 190, 50);
+        for (std::size_t look = 0; look < looks.size(); ++look) {
+            looks[look](qt);
+            looks[look](livre);
+            for (int fois = 0; fois < 2; ++fois)
+                memes_pixels(qt, livre, typeid(W).name() + (" look " + std::to_string(look)));
+        }
+    }
     const QColor sol_{0xfb, 0xf6, 0xe8};
     QWidget fenetre_;
 };
@@ -156,56 +172,25 @@ TEST_F(SurSolUni, UnBoutonQuiEmprunteUneFeuilleOuGardeSonDessinDonneSesPixels) {
             }
 }
 
-TEST_F(SurSolUni, UnLibelleGardeDonneSesPixels) {
-    QLabel qt(&fenetre_), livre(&fenetre_);
-    pose_sol_uni(livre, sol_);
-    for (QLabel* l : {&qt, &livre}) {
-        l->setGeometry(l == &qt ? 0 : 200, 3, 190, 50);
-        l->setWordWrap(true);
-    }
-    // Each look changes what the one before showed: a key that missed it gives the old picture.
-    const std::vector<std::function<void(QLabel&)>> looks = {
-        [](QLabel& l) { l.setText(QStringLiteral("Jeudi 26 novembre 2026")); },
+TEST_F(SurSolUni, UnTexteOuUnOutilGardeSurSonSolDonneSesPixels) {
+    QPixmap visage(24, 24), autre(24, 24);
+    visage.fill(Qt::darkGreen);
+    autre.fill(Qt::darkRed);
+    memes_looks<QLabel>({
+        [](QLabel& l) { l.setWordWrap(true), l.setText(QStringLiteral("Jeudi 26 novembre 2026")); },
         [](QLabel& l) { l.setText(QStringLiteral("Cliquez sur les prestations et le temps")); },
         [](QLabel& l) { l.setFont(QFont(QStringLiteral("DejaVu Serif"), 12, QFont::Bold)); },
         [](QLabel& l) { l.setAlignment(Qt::AlignRight | Qt::AlignVCenter); },
         [](QLabel& l) { l.setEnabled(false); },
         [](QLabel& l) { l.resize(150, 50); },
-    };
-    for (std::size_t look = 0; look < looks.size(); ++look) {
-        looks[look](qt);
-        looks[look](livre);
-        for (int fois = 0; fois < 2; ++fois)
-            memes_pixels(qt, livre, "look " + std::to_string(look));
-    }
-}
-
-TEST_F(SurSolUni, UneCaseACocherGardeeDonneSesPixels) {
-    QCheckBox qt(QStringLiteral("Encadrement"), &fenetre_), livre(qt.text(), &fenetre_);
-    pose_sol_uni(livre, sol_);
-    qt.setGeometry(0, 3, 190, 30);
-    livre.setGeometry(200, 3, 190, 30);
-    const std::vector<std::function<void(QCheckBox&)>> looks = {
-        [](QCheckBox&) {},
+    });
+    memes_looks<QCheckBox>({
+        [](QCheckBox& c) { c.setText(QStringLiteral("Encadrement")); },
         [](QCheckBox& c) { c.setChecked(true); },
         [](QCheckBox& c) { c.setText(QStringLiteral("Après-midi")); },
         [](QCheckBox& c) { c.setEnabled(false); },
-    };
-    for (std::size_t look = 0; look < looks.size(); ++look) {
-        looks[look](qt);
-        looks[look](livre);
-        for (int fois = 0; fois < 2; ++fois)
-            memes_pixels(qt, livre, "look " + std::to_string(look));
-    }
-}
-
-TEST_F(SurSolUni, UnOutilGardeDonneSesPixels) {
-    QPixmap visage(24, 24), autre(24, 24);
-    visage.fill(Qt::darkGreen);
-    autre.fill(Qt::darkRed);
-    QToolButton qt(&fenetre_), livre(&fenetre_);
-    pose_sol_uni(livre, sol_);
-    const std::vector<std::function<void(QToolButton&)>> looks = {
+    });
+    memes_looks<QToolButton>({
         [&](QToolButton& b) {
             b.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
             b.setIcon(visage);
@@ -217,12 +202,5 @@ TEST_F(SurSolUni, UnOutilGardeDonneSesPixels) {
         [](QToolButton& b) { b.setIconSize(QSize(16, 16)); },
         [](QToolButton& b) { b.setFont(QFont(QStringLiteral("DejaVu Sans"), 8, QFont::Bold)); },
         [](QToolButton& b) { b.setEnabled(false); },
-    };
-    for (QToolButton* b : {&qt, &livre})
-        b->setGeometry(b == &qt ? 1 : 201, 1, 120, 40);
-    for (std::size_t look = 0; look < looks.size(); ++look) {
-        looks[look](qt);
-        looks[look](livre);
-        memes_pixels(qt, livre, "look " + std::to_string(look));
-    }
+    });
 }

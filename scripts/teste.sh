@@ -54,7 +54,8 @@ done
 "$racine/build-test/bench/agenda_bench_collaborateurs" 2>&1 | grep -E "median|séq|peinture"
 for banc in agenda_bench_fenetres agenda_bench_demarrage; do
     # On the X server, not offscreen: there a bare window costs nothing and the ratios mean little.
-    env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24" \
+    # -noreset: the programs started one after another find the server as the last one left it.
+    env -u QT_QPA_PLATFORM xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" \
         "$racine/build-test/bench/$banc" 2>&1 |
         grep -E "median|×" || echo "($banc n'a pas tourné)"
 done

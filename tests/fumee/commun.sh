@@ -4,12 +4,20 @@
 set -euo pipefail
 if [ -z "${DANS_X:-}" ]; then
     rm -rf "$3" && mkdir -p "$3" && "$2" "$3/donnees" > /dev/null
-    DANS_X=1 exec xvfb-run -a -s "-screen 0 1280x1024x24" "$0" "$@"
+    # -noreset: when its last client leaves, the server stays as it is; resetting, it refused the
+    # connection of the program started again at that moment (about one start in a hundred).
+    DANS_X=1 exec xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$0" "$@"
 fi
 set +e
 AGENDA=$1 SORTIE=$3
 jusqua() { for _ in $(seq 1 100); do "$@" && return 0; sleep 0.1; done; return 1; }
-echec() { echo "$1"; import -window root "$SORTIE/echec.png"; kill $pid; exit 1; }
+echec() {
+    echo "$1"
+    sed 's/^/agenda: /' "$SORTIE/agenda.err"
+    import -window root "$SORTIE/echec.png"
+    kill $pid 2> /dev/null
+    exit 1
+}
 # The program's windows other than the book; waits until there are so many.
 par_dessus() { xdotool search --onlyvisible --class agenda 2>/dev/null | grep -vx "$livre"; }
 compte() { [ "$(par_dessus | wc -l)" -eq "$1" ]; }
@@ -32,8 +40,15 @@ demarre() {
     cd "$SORTIE/donnees" || exit 1
     env -u QT_QPA_PLATFORM "$AGENDA" 2> "$SORTIE/agenda.err" &
     pid=$!
-    trouve() { livre=$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1); [ -n "$livre" ]; }
-    jusqua trouve || echec "aucune fenêtre Agenda"
+    # Found, or ended: a program that ended is told at once, with its status.
+    trouve() {
+        livre=$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1)
+        [ -n "$livre" ] || ! kill -0 $pid 2>/dev/null
+    }
+    if ! jusqua trouve || [ -z "$livre" ]; then
+        kill -0 $pid 2> /dev/null || { wait $pid; echec "Agenda s'est arrêté (statut $?) sans fenêtre"; }
+        echec "aucune fenêtre Agenda"
+    fi
     eval "$(xdotool getwindowgeometry --shell "$livre")"
     LX=$X LY=$Y e=$(python3 -c "print($WIDTH / 15360)")
 }

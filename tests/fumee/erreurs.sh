@@ -5,9 +5,9 @@ set -uo pipefail
 agenda=$1 sortie=$2 echec=0
 rm -rf "$sortie"
 
-# essaie NAME WORDS: runs the program in the folder NAME, prepared just before.
+# essaie NAME WORDS [VAR=VALUE...]: runs the program in the folder NAME, prepared just before.
 essaie() {
-    (cd "$sortie/$1" && QT_QPA_PLATFORM=offscreen timeout 20 "$agenda") 2> "$sortie/$1.err"
+    (cd "$sortie/$1" && env QT_QPA_PLATFORM=offscreen "${@:3}" timeout 20 "$agenda") 2> "$sortie/$1.err"
     local rc=$?
     [ $rc -eq 1 ] || { echo "$1 : statut $rc au lieu de 1"; echec=1; }
     grep -q "$2" "$sortie/$1.err" || { echo "$1 : message sans « $2 »"; cat "$sortie/$1.err"; echec=1; }
@@ -29,4 +29,8 @@ essaie heures "page du matin"
 dossier dossier 1
 mkdir "$sortie/dossier/tf_r0000.wdo"
 essaie dossier "tf_r0000.wdo (ouverture) : c'est un dossier"
+
+# No screen to open on: the toolkit would abort.
+dossier sans_ecran 1
+essaie sans_ecran "l'écran est inaccessible (DISPLAY=:65000)" QT_QPA_PLATFORM=xcb DISPLAY=:65000
 exit $echec

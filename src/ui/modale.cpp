@@ -42,4 +42,8 @@ void pose_scenario(std::type_index type, Presentation script) {
         scenarios().erase(type);
 }
 
+void oublie_scenarios() {
+    scenarios().clear();
+}
+
 } // namespace agenda::ui

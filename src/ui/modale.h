@@ -47,6 +47,7 @@ void montre_modal(FenetreModale& fenetre);
 using Presentation = std::function<void(FenetreModale&)>;
 void enregistre_presentation(std::type_index type, Presentation vue);
 void pose_scenario(std::type_index type, Presentation script); // an empty script removes it
+void oublie_scenarios();                                       // every window has its view back
 
 // A test plays the operator of every window of type F shown from now on; an empty script gives
 // the window its view back.

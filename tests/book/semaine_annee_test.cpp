@@ -24,12 +24,6 @@ protected:
         Livre::SetUp();
         charge();
     }
-    void TearDown() override {
-        ui::scenario<Saisnote>({});
-        ui::scenario<Mini97>({});
-        ui::scenario<ChCoul>({});
-        Livre::TearDown();
-    }
     void montre_semaine(Date d) {
         etat.date_courante = d;
         livre->ongletd_Click(1);

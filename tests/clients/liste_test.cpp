@@ -36,10 +36,6 @@ protected:
         ecrit(QStringLiteral("W_CAI038.WDO"), Gabarit(1024).i32(254, 23).octets() + f);
         etat.texte_retour = QStringLiteral("AVANT");
     }
-    void TearDown() override {
-        ui::scenario<Mini97>({});
-        DossierDonnees::TearDown();
-    }
     static std::vector<std::int32_t> numeros(const LitCli& l) {
         std::vector<std::int32_t> n;
         for (const auto& e : l.List1)

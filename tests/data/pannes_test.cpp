@@ -44,10 +44,6 @@ protected:
         DossierDonnees::SetUp();
         fixe_disque(&disque);
     }
-    void TearDown() override {
-        fixe_disque(nullptr);
-        DossierDonnees::TearDown();
-    }
     // One new record in each file that counts its records in a header.
     static void nouveau_rv() {
         ouvre_rv();

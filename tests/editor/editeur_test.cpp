@@ -40,14 +40,6 @@ protected:
               Gabarit(1024).i32(254, 2).octets() + Gabarit(1024).octets() + marie);
         charge();
     }
-    void TearDown() override {
-        ui::scenario<Detarv>({});
-        ui::scenario<LitCli>({});
-        ui::scenario<Cclifa>({});
-        ui::scenario<Mini97>({});
-        ui::scenario<Date97>({});
-        Livre::TearDown();
-    }
     // The editor as the operator works it; the prompt box answers with this button.
     void editeur(std::function<void(Detarv&)> script) { ui::scenario<Detarv>(script); }
     void repond(int bouton) {

@@ -8,18 +8,7 @@
 
 using namespace agenda;
 
-namespace {
-
-class Boites : public agenda::test::DossierDonnees {
-protected:
-    void TearDown() override {
-        ui::scenario<Mini97>({});
-        ui::scenario<Date97>({});
-        DossierDonnees::TearDown();
-    }
-};
-
-} // namespace
+using Boites = agenda::test::DossierDonnees;
 
 TEST_F(Boites, InviteSelonLeModeEtLaSortie) {
     struct Cas {

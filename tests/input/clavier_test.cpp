@@ -7,17 +7,7 @@
 
 using namespace agenda;
 
-namespace {
-
-class Clavier : public agenda::test::DossierDonnees {
-protected:
-    void TearDown() override {
-        ui::scenario<Clavv>({});
-        DossierDonnees::TearDown();
-    }
-};
-
-} // namespace
+using Clavier = agenda::test::DossierDonnees;
 
 TEST_F(Clavier, SequencesDeTouches) {
     struct Cas {

@@ -31,12 +31,6 @@ protected:
         transfert = Transfert::repos;
         planning.Form_Load();
     }
-    void TearDown() override {
-        ui::scenario<Detarv>({});
-        ui::scenario<Mini97>({});
-        ui::scenario<Saisiuti>({});
-        Livre::TearDown();
-    }
     static Gabarit rendez_vous_1() {
         return agenda::test::rv_vierge()
             .texte({{0, 20, "040303:09H30:10H15"},
@@ -258,7 +252,6 @@ TEST_F(Planning, LePosteGeneralFinitAvecLePlanning) {
     ecrit_inter(QStringLiteral("TORVA:NUMUSER"), QStringLiteral("0001 Sophie"));
     livre->sel_onglet(3);
     EXPECT_EQ(livre->Timer1.interval(), 250);
-    ui::scenario<Torva11>({});
 }
 
 TEST_F(Planning, LeChoixDuCollaborateur) {

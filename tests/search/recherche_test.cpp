@@ -31,11 +31,6 @@ protected:
                   rv("040306:10H00", fin.c_str()) + rv("040306:09H00", milieu.c_str()));
         critere_rv.clear();
     }
-    void TearDown() override {
-        ui::scenario<Detarv>({});
-        ui::scenario<Mini97>({});
-        Livre::TearDown();
-    }
     // The results as "collaborator|number".
     QStringList trouves() const {
         QStringList r;

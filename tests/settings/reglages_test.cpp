@@ -24,12 +24,6 @@ protected:
         ui::fixe_saisie([this](const QString&, const QString&, const QString&) { return reponse; });
         ui::scenario<Mini97>([](Mini97& b) { b.btc_Click(2); });
     }
-    void TearDown() override {
-        ui::fixe_saisie({});
-        ui::scenario<Mini97>({});
-        ui::scenario<Toroutils>({});
-        Livre::TearDown();
-    }
     void avec_sms() {
         QDir(dossier_.path()).mkdir(QStringLiteral("vigi_sms"));
         fixe_dossier_sms(chemin(QStringLiteral("vigi_sms/")));

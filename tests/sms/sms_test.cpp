@@ -37,11 +37,6 @@ protected:
         ui::scenario<Verifsmss>([this](Verifsmss& v) { gestionnaires << int(v.g1.size()); });
         ui::scenario<Mini97>([](Mini97& b) { b.btc_Click(2); });
     }
-    void TearDown() override {
-        ui::scenario<Verifsmss>({});
-        ui::scenario<Mini97>({});
-        Livre::TearDown();
-    }
     QByteArray file() const { return contenu(QStringLiteral("vigi_sms/wmesanev.wdo")); }
     std::vector<Envoi> envois() const {
         std::vector<Envoi> e;

@@ -4,6 +4,7 @@
 #include "data/fichier_records.h"
 #include "planning/torva11.h"
 #include "sms/sms.h"
+#include "ui/modale.h"
 #include "ui/systeme.h"
 
 #include <QDir>
@@ -67,6 +68,9 @@ void DossierDonnees::SetUp() {
 }
 
 void DossierDonnees::TearDown() {
+    ui::oublie_scenarios();
+    ui::fixe_saisie({});
+    fixe_disque(nullptr);
     ferme_tous_les_canaux();
     ui::fixe_horloge({});
     ui::fixe_fin({});

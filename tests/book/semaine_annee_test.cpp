@@ -10,7 +10,6 @@
 #include "ui/erreur.h"
 
 using namespace agenda;
-using agenda::test::Gabarit;
 
 namespace {
 
@@ -184,14 +183,8 @@ TEST_F(Semaine, LaNoteDeLaSemaineDansLeFichierDesNotes) {
     });
     livre->Text3_Click();
     EXPECT_EQ(contenu(fichier),
-              agenda::test::rv_entete(1) + Gabarit(512)
-                                               .zeros(422, 48)
-                                               .texte({{0, 20, "SE:040301"},
-                                                       {20, 402, "Ouvert"},
-                                                       {470, 20, "caisse:1234"},
-                                                       {510, 2, "\r\n"}})
-                                               .i32({{446, 0xC0C0FF}, {450, 0x800000}})
-                                               .octets());
+              agenda::test::rv_entete(1) +
+                  note("SE:040301", "Ouvert", 0xC0C0FF, 0x800000).replace(470, 11, "caisse:1234"));
     EXPECT_EQ(livre->Text3_encre, 0x800000);
 
     // Cancelled: "no" keeps the window open; "yes" empties the text, and the record stays,

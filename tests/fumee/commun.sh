@@ -11,13 +11,10 @@ fi
 set +e
 AGENDA=$1 SORTIE=$3
 jusqua() { for _ in $(seq 1 100); do "$@" && return 0; sleep 0.1; done; return 1; }
+# The failure, what the program printed, and the screen.
 echec() {
-    echo "$1"
-    sed 's/^/agenda: /' "$SORTIE/agenda.err"
-    import -window root "$SORTIE/echec.png"
-    kill $pid 2> /dev/null
-    exit 1
-}
+    echo "$1" && sed 's/^/agenda: /' "$SORTIE/agenda.err" && import -window root "$SORTIE/echec.png"
+    kill $pid 2> /dev/null; exit 1; }
 # The program's windows other than the book; waits until there are so many.
 par_dessus() { xdotool search --onlyvisible --class agenda 2>/dev/null | grep -vx "$livre"; }
 compte() { [ "$(par_dessus | wc -l)" -eq "$1" ]; }
@@ -43,12 +40,9 @@ demarre() {
     # Found, or ended: a program that ended is told at once, with its status.
     trouve() {
         livre=$(xdotool search --onlyvisible --name '^Agenda' 2>/dev/null | head -1)
-        [ -n "$livre" ] || ! kill -0 $pid 2>/dev/null
-    }
-    if ! jusqua trouve || [ -z "$livre" ]; then
-        kill -0 $pid 2> /dev/null || { wait $pid; echec "Agenda s'est arrêté (statut $?) sans fenêtre"; }
-        echec "aucune fenêtre Agenda"
-    fi
+        [ -n "$livre" ] || ! kill -0 $pid 2> /dev/null; }
+    jusqua trouve || echec "aucune fenêtre Agenda"
+    [ -n "$livre" ] || { wait $pid; echec "Agenda s'est arrêté (statut $?) sans fenêtre"; }
     eval "$(xdotool getwindowgeometry --shell "$livre")"
     LX=$X LY=$Y e=$(python3 -c "print($WIDTH / 15360)")
 }

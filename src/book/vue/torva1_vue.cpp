@@ -218,9 +218,8 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
     label7_->setToolTip(QStringLiteral("Changer de collaborateur"));
     label7_->installEventFilter(this);
 
-    calend_ = ui::calendrier(*pageg_, Torva1::calend_rect);
+    calend_ = ui::calendrier(*pageg_, Torva1::calend_rect, ui::police(QStringLiteral("Arial"), 8));
     calend_->setGridVisible(false);
-    calend_->setFont(ui::police(QStringLiteral("Arial"), 8));
     // Its parts cover it whole: said opaque, it is not repainted with the page under it.
     calend_->setAutoFillBackground(true);
     connect(calend_, &QCalendarWidget::clicked, this,

@@ -11,7 +11,7 @@
 namespace agenda {
 
 Date97Vue::Date97Vue(Date97& l) : VueModale(l, l.largeur, l.hauteur), l_(l) {
-    monthview1_ = ui::calendrier(*this, l.MonthView1_rect);
+    monthview1_ = ui::calendrier(*this, l.MonthView1_rect, font());
 
     label1_ = new QLabel(this);
     ui::place(*label1_, l.Label1_rect);

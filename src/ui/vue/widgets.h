@@ -84,9 +84,9 @@ private:
 };
 
 // A month calendar at a rectangle in twips, in French, its weeks from Monday, without week
-// numbers. Its days are headed by their initials: the short names ("sam.") were cut short in
-// the book's narrow columns.
-QCalendarWidget* calendrier(QWidget& parent, const RectTwips& r);
+// numbers, in this font. Its days are headed by their initials: the short names ("sam.") were
+// cut short in the book's narrow columns.
+QCalendarWidget* calendrier(QWidget& parent, const RectTwips& r, const QFont& police);
 
 // The picture store's colour swatches at a rectangle in twips: a press on one gives its colour,
 // read from the pixel under the pointer, as the files keep colours.

@@ -1,6 +1,7 @@
 // Agenda: the appointment book of the shop, started in its data folder.
 
 #include "ouverture.h"
+#include "ui/systeme.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -23,24 +24,14 @@ constexpr const char* aide =
     "  --version  affiche la version et s'arrête\n"
     "  --help     affiche cette aide et s'arrête\n";
 
-bool ecran_ouvert = false;
 QtMessageHandler messages_de_qt = nullptr;
 
-// Qt ends a program it cannot carry on with (no screen to connect to, first of all) by abort():
-// here it ends with a French message and status 1 instead. No record is pending: every write has
-// reached its file, which the system closes.
-void message_de_qt(QtMsgType type, const QMessageLogContext& contexte, const QString& texte) {
-    if (type != QtFatalMsg) {
-        messages_de_qt(type, contexte, texte);
-        return;
-    }
-    const char* ecran = std::getenv("DISPLAY");
-    if (ecran_ouvert)
-        std::fprintf(stderr, "Agenda : arrêt sur une erreur de Qt : %s\n", qPrintable(texte));
-    else
-        std::fprintf(stderr, "Agenda : l'écran est inaccessible (DISPLAY=%s).\n",
-                     ecran ? ecran : "");
-    std::fflush(stderr);
+// Qt ends a program that cannot reach its screen by abort(): while the application connects, its
+// fatal message ends Agenda with a French one and status 1 instead. No file is open yet.
+void sans_ecran(QtMsgType type, const QMessageLogContext& contexte, const QString& texte) {
+    if (type != QtFatalMsg) return messages_de_qt(type, contexte, texte);
+    agenda::ui::message_fatal(QStringLiteral("l'écran est inaccessible (DISPLAY=%1).")
+                                  .arg(qEnvironmentVariable("DISPLAY")));
     std::_Exit(1);
 }
 
@@ -59,9 +50,9 @@ int main(int argc, char** argv) {
         }
     }
     agenda::ui::ACote polices = agenda::lit_les_polices_a_cote();
-    messages_de_qt = qInstallMessageHandler(message_de_qt);
+    messages_de_qt = qInstallMessageHandler(sans_ecran);
     QApplication app(argc, argv);
-    ecran_ouvert = true;
+    qInstallMessageHandler(messages_de_qt);
     polices.attends();
     const auto programme = agenda::ouvre_programme();
     return QApplication::exec();

@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QThreadPool>
 #include <QUrl>
 #include <vector>
 
@@ -113,13 +114,28 @@ void avant_la_fin(std::function<void()> action) {
     actions_finales().push_back(std::move(action));
 }
 
-ACote::ACote(std::function<void()> travail) {
+ACote::ACote(std::function<void()> travail, Fil fil) {
     // The work is let go once done: the wait kept for the end would otherwise keep what it holds
     // (a view's pictures) for the rest of the program.
-    fait_ = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
+    if (fil == Fil::propre) {
+        fait_ = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
+                    travail();
+                    travail = nullptr;
+                }).share();
+    } else {
+        auto promesse = std::make_shared<std::promise<void>>();
+        fait_ = promesse->get_future().share();
+        QThreadPool::globalInstance()->start([promesse, travail = std::move(travail)]() mutable {
+            try {
                 travail();
                 travail = nullptr;
-            }).share();
+                promesse->set_value();
+            } catch (...) {
+                travail = nullptr;
+                promesse->set_exception(std::current_exception());
+            }
+        });
+    }
     avant_la_fin([fait = fait_] { fait.wait(); });
 }
 

@@ -44,13 +44,19 @@ void fixe_message_fatal(std::function<void(const QString&)> montre);
 
 // What must be done before any end of the program (closing the files), in the order given.
 void avant_la_fin(std::function<void()> action);
-// Work given to a thread of its own, which every end of the program waits for: it draws or asks
+// Work given to another thread, which every end of the program waits for: it draws or asks
 // through the toolkit, whose globals go with the program. Its owner waits for it too, before
 // going or before taking another.
 class ACote {
 public:
+    // The thread the work runs on. The toolkit's painter splits each large fill across the
+    // threads of the toolkit's pool and waits for them, unless it paints on one of them: a
+    // drawing given to the pool keeps its fills on its own thread rather than waking the others,
+    // which the window being built needs. The pool has a thread per core: work that may wait
+    // (for a bus, a disk) keeps a thread of its own.
+    enum class Fil { propre, dessin };
     ACote() = default;
-    explicit ACote(std::function<void()> travail);
+    explicit ACote(std::function<void()> travail, Fil fil = Fil::propre);
     ACote(const ACote&) = delete;
     ACote& operator=(ACote&& autre) noexcept {
         attends();

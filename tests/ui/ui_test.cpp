@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QThread>
+#include <QThreadPool>
 #include <thread>
 
 using namespace agenda::ui;
@@ -21,17 +23,24 @@ TEST(Ui, Couleurs) {
 }
 
 TEST(Ui, LaFinAttendLeTravailACote) {
-    // Work still running when the program ends, as a thread drawing with the toolkit would be.
-    std::atomic<bool> fini = false, fini_a_la_fin = false;
-    const ACote fait([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        fini = true;
-    });
-    fixe_fin([&](int) {
-        fini_a_la_fin = fini.load();
-        throw 0;
-    });
-    EXPECT_THROW(termine(1), int);
-    fixe_fin({});
-    EXPECT_TRUE(fini_a_la_fin);
+    // Work still running when the program ends, as a thread drawing with the toolkit would be. A
+    // drawing runs on a thread of the toolkit's pool, whose painter then keeps its fills there.
+    for (const ACote::Fil fil : {ACote::Fil::propre, ACote::Fil::dessin}) {
+        std::atomic<bool> fini = false, fini_a_la_fin = false, dans_le_pool = false;
+        const ACote fait(
+            [&] {
+                dans_le_pool = QThreadPool::globalInstance()->contains(QThread::currentThread());
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+                fini = true;
+            },
+            fil);
+        fixe_fin([&](int) {
+            fini_a_la_fin = fini.load();
+            throw 0;
+        });
+        EXPECT_THROW(termine(1), int);
+        fixe_fin({});
+        EXPECT_TRUE(fini_a_la_fin);
+        EXPECT_EQ(dans_le_pool, fil == ACote::Fil::dessin);
+    }
 }

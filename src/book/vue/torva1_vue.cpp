@@ -99,23 +99,25 @@ void page_sur_le_cuir(QPainter& g, QSize taille, const std::vector<QRect>& parti
 }
 
 // The leather boards, drawn in the parts of the window where they show. Their grain and the
-// pages' took a tenth of the start: a second thread draws them, and the pages' backgrounds for
-// their first showing, while the book is built and its day loaded.
+// pages' took a tenth of the start: a thread of the toolkit's pool draws them, and the pages'
+// backgrounds for their first showing, while the book is built and its day loaded.
 class Couverture : public QWidget {
 public:
     Couverture(QWidget* parent, const QRegion& visible, const std::array<QRect, 2>& pages)
         : QWidget(parent), parties_(visible.begin(), visible.end()) {
         setGeometry(parent->rect());
-        fait_ = ui::ACote([fonds = faits_, taille = size(), parties = parties_, pages,
-                           echelle = devicePixelRatioF()] {
-            fonds->cuir = ui::icc::couverture(taille, parties);
-            for (std::size_t i = 0; i < pages.size(); ++i)
-                fonds->pages[i] = ui::VueSurface::image_du_fond(
-                    [&](QPainter& g, QSize s) {
-                        page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
-                    },
-                    pages[i].size() * echelle, echelle, true);
-        });
+        fait_ = ui::ACote(
+            [fonds = faits_, taille = size(), parties = parties_, pages,
+             echelle = devicePixelRatioF()] {
+                fonds->cuir = ui::icc::couverture(taille, parties);
+                for (std::size_t i = 0; i < pages.size(); ++i)
+                    fonds->pages[i] = ui::VueSurface::image_du_fond(
+                        [&](QPainter& g, QSize s) {
+                            page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
+                        },
+                        pages[i].size() * echelle, echelle, true);
+            },
+            ui::ACote::Fil::dessin);
     }
     // The page's background at `r` (in the window's pixels) over `taille` device pixels.
     void page(QPainter& g, const QRect& r, QSize taille, bool gauche) {

@@ -79,7 +79,9 @@ QImage VueSurface::image_du_fond(const Fond& fond, QSize pixels, qreal echelle, 
     // An image, not a pixmap: a background can then blend its grain straight into it.
     QImage image(pixels, opaque ? QImage::Format_RGB888 : QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(echelle);
-    image.fill(Qt::transparent);
+    // Transparent, and black without alpha, are zero bytes: cleared at memory speed rather than
+    // pixel by pixel, three bytes at a time in an opaque picture.
+    std::memset(image.bits(), 0, std::size_t(image.sizeInBytes()));
     if (fond) {
         QPainter g(&image);
         peint_fond(g, fond, pixels, echelle);

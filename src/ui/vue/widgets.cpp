@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <QCalendarWidget>
 #include <QGuiApplication>
 #include <QLabel>
@@ -148,6 +149,14 @@ LegendeGravee::LegendeGravee(VueSurface& surface, QLabel& legende)
     : surface_(surface), legende_(legende) {}
 
 void LegendeGravee::montre(const QString& texte) {
+    // Off the screen, its text: the surface's first showing paints beneath it anyway, and the
+    // picture made now would wait for the surface's background, which the book's cover is
+    // still drawing as it opens.
+    if (!legende_.isVisible()) {
+        legende_.setAttribute(Qt::WA_OpaquePaintEvent, false);
+        legende_.setText(texte);
+        return;
+    }
     const qreal echelle = legende_.devicePixelRatioF();
     if (const std::pair de(surface_.version(), echelle); images_de_ != de) {
         images_.clear();

@@ -69,7 +69,8 @@ private:
 // The toolkit draws glyphs too big for its glyph cache from their outlines at every paint: the
 // day's number cost a day step more than the whole scan of a small file. Each text's picture is
 // drawn once, by a caption like this one, and kept; opaque, the caption leaves the surface
-// beneath it alone when it changes. The texts are few: days, months, years.
+// beneath it alone when it changes. The texts are few: days, months, years. A caption off the
+// screen is its text alone.
 class LegendeGravee {
 public:
     // `legende` is a child of `surface`, with its font, palette and alignment already given.

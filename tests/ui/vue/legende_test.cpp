@@ -1,5 +1,6 @@
 // A caption shown as a picture gives the pixels of the caption drawing its own text over the
-// same surface, for glyphs from the glyph cache and from their outlines, and follows the surface.
+// same surface, for glyphs from the glyph cache and from their outlines, and follows the surface;
+// so does a caption given its text before its window shows.
 // A surface's background made beforehand gives the pixels of the surface's own.
 
 #include "ui/surface.h"
@@ -51,6 +52,11 @@ TEST(LegendeGravee, LesPixelsDeLaLegendeElleMeme) {
     for (const int pixels : {24, 72}) { // in the glyph cache, and too big for it
         Page texte(pixels), image(pixels);
         LegendeGravee gravee(image.surface, image.legende);
+        // Given before the window shows, as the book gives its date.
+        gravee.montre(QStringLiteral("Mercredi"));
+        image.fenetre.show();
+        texte.legende.setText(QStringLiteral("Mercredi"));
+        ASSERT_EQ(image.vue(), texte.vue()) << pixels;
         for (const Surface* dessin :
              {static_cast<const Surface*>(nullptr), &std::as_const(trait)}) {
             texte.surface.montre(dessin);

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QThreadPool>
 #include <QUrl>
+#include <thread>
 #include <vector>
 
 namespace agenda::ui {
@@ -117,25 +118,16 @@ void avant_la_fin(std::function<void()> action) {
 ACote::ACote(std::function<void()> travail, Fil fil) {
     // The work is let go once done: the wait kept for the end would otherwise keep what it holds
     // (a view's pictures) for the rest of the program.
-    if (fil == Fil::propre) {
-        fait_ = std::async(std::launch::async, [travail = std::move(travail)]() mutable {
-                    travail();
-                    travail = nullptr;
-                }).share();
-    } else {
-        auto promesse = std::make_shared<std::promise<void>>();
-        fait_ = promesse->get_future().share();
-        QThreadPool::globalInstance()->start([promesse, travail = std::move(travail)]() mutable {
-            try {
-                travail();
-                travail = nullptr;
-                promesse->set_value();
-            } catch (...) {
-                travail = nullptr;
-                promesse->set_exception(std::current_exception());
-            }
+    auto tache =
+        std::make_shared<std::packaged_task<void()>>([travail = std::move(travail)]() mutable {
+            travail();
+            travail = nullptr;
         });
-    }
+    fait_ = tache->get_future().share();
+    if (fil == Fil::dessin)
+        QThreadPool::globalInstance()->start([tache] { (*tache)(); });
+    else
+        std::thread([tache] { (*tache)(); }).detach();
     avant_la_fin([fait = fait_] { fait.wait(); });
 }
 

@@ -26,6 +26,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
+#include <QTimer>
+#include <utility>
 
 namespace agenda {
 
@@ -48,6 +50,28 @@ void enregistre_fenetres() {
     ui::enregistre_vue<ChCoul, ChCoulVue>();
 }
 
+// Does `action` once, as soon as `fenetre` has been painted for the first time: for what the user
+// does not wait for.
+class ApresLaPremierePeinture : public QObject {
+public:
+    ApresLaPremierePeinture(QWidget& fenetre, std::function<void()> action)
+        : QObject(&fenetre), action_(std::move(action)) {
+        fenetre.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* objet, QEvent* e) override {
+        if (e->type() == QEvent::Paint && action_) {
+            objet->removeEventFilter(this);
+            QTimer::singleShot(0, this, std::exchange(action_, nullptr)); // once it is shown
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> action_;
+};
+
 } // namespace
 
 ui::ACote lit_les_polices_a_cote() {
@@ -63,10 +87,6 @@ std::unique_ptr<Programme> ouvre_programme() {
     ui::ACote bus([] { QDBusConnection::sessionBus(); });
     QApplication::setApplicationName(QStringLiteral("Agenda"));
     QApplication::setStyle(new ui::StyleDuLivre);
-    // The window's own icon, for the task switcher; the larger ones of the menu and the dock come
-    // from the installed icon theme. At 256 pixels it cost a millisecond and a quarter of a
-    // megabyte at every start.
-    QApplication::setWindowIcon(ui::icc::icone(QSize(128, 128)));
     // The window manager finds the menu entry, and its icon, by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("fr.agenda.Agenda"));
     ui::echelle_pour_ecran(QGuiApplication::primaryScreen());
@@ -81,14 +101,26 @@ std::unique_ptr<Programme> ouvre_programme() {
                                      defaut);
     });
 
+    // The leather is drawn on the side while the day is loaded, then the book is built: its
+    // month control, which waits for the session bus, is made once the bus has answered.
+    auto couverture = std::make_shared<CouvertureDessinee>(
+        QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->devicePixelRatio()
+                                         : 1.0);
     auto p = std::make_unique<Programme>();
     protege([&] { p->livre.charge(); });
+    p->vue = std::make_unique<Torva1Vue>(p->livre, std::move(couverture));
+    Torva1Vue& vue = *p->vue;
     // Across the middle of the screen, at the top.
     if (const QScreen* ecran = QGuiApplication::primaryScreen()) {
         const QRect libre = ecran->availableGeometry();
-        p->vue.move(libre.left() + libre.width() / 2 - p->vue.width() / 2, libre.top());
+        vue.move(libre.left() + libre.width() / 2 - vue.width() / 2, libre.top());
     }
-    p->vue.show();
+    // The window's own icon, for the task switcher, once the book is on the screen: drawn
+    // before, it held the first paint back. The larger ones of the menu and the dock come from
+    // the installed icon theme.
+    new ApresLaPremierePeinture(
+        vue, [] { QApplication::setWindowIcon(ui::icc::icone(QSize(128, 128))); });
+    vue.show();
     p->bus_de_session = std::move(bus);
     return p;
 }

@@ -12,8 +12,8 @@ namespace agenda {
 
 struct Programme {
     Torva1 livre;
-    Torva1Vue vue{livre};
-    ui::ACote bus_de_session; // looked up on the side while the book is built
+    std::unique_ptr<Torva1Vue> vue; // built once the day is loaded
+    ui::ACote bus_de_session;       // looked up on the side while the book is built
 };
 
 // Started before the QApplication, waited for once it is made: the font configuration, read on

@@ -61,7 +61,7 @@ int enfant(int argc, char** argv, const std::string& quoi) {
     PremierePeinture peinture;
     if (quoi == "livre") {
         const auto programme = agenda::ouvre_programme();
-        programme->vue.installEventFilter(&peinture);
+        programme->vue->installEventFilter(&peinture);
         return QApplication::exec();
     }
     QWidget w;

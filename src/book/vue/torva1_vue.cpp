@@ -78,13 +78,6 @@ void colore_feries(QCalendarWidget& calend, int annee, int mois, std::int32_t co
     }
 }
 
-// The leather's parts, and each page's background: its paper over the leather beneath its
-// rounded corners.
-struct Fonds {
-    std::vector<QImage> cuir;
-    std::array<QImage, 2> pages; // the left page's, the right page's
-};
-
 // A page's background; `page` its place in the window's pixels, painted over `taille` device
 // pixels.
 void page_sur_le_cuir(QPainter& g, QSize taille, const std::vector<QRect>& parties,
@@ -98,64 +91,35 @@ void page_sur_le_cuir(QPainter& g, QSize taille, const std::vector<QRect>& parti
     ui::icc::page(g, taille, gauche);
 }
 
-// The leather boards, drawn in the parts of the window where they show. Their grain and the
-// pages' took a tenth of the start: a thread of the toolkit's pool draws them, and the pages'
-// backgrounds for their first showing, while the book is built and its day loaded.
+// The leather boards, drawn in the parts of the window where they show.
 class Couverture : public QWidget {
 public:
-    Couverture(QWidget* parent, const QRegion& visible, const std::array<QRect, 2>& pages)
-        : QWidget(parent), parties_(visible.begin(), visible.end()) {
+    Couverture(QWidget* parent, std::shared_ptr<CouvertureDessinee> dessin)
+        : QWidget(parent), dessin_(std::move(dessin)) {
         setGeometry(parent->rect());
-        fait_ = ui::ACote(
-            [fonds = faits_, taille = size(), parties = parties_, pages,
-             echelle = devicePixelRatioF()] {
-                fonds->cuir = ui::icc::couverture(taille, parties);
-                for (std::size_t i = 0; i < pages.size(); ++i)
-                    fonds->pages[i] = ui::VueSurface::image_du_fond(
-                        [&](QPainter& g, QSize s) {
-                            page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
-                        },
-                        pages[i].size() * echelle, echelle, true);
-            },
-            ui::ACote::Fil::dessin);
     }
-    // The page's background at `r` (in the window's pixels) over `taille` device pixels.
-    void page(QPainter& g, const QRect& r, QSize taille, bool gauche) {
-        page_sur_le_cuir(g, taille, parties_, fonds().cuir, r, gauche);
-    }
-    // The page's background made beforehand, given once.
-    QImage page_prete(bool gauche) { return std::exchange(fonds().pages[gauche ? 0 : 1], {}); }
+    CouvertureDessinee& dessin() { return *dessin_; }
 
 protected:
     void paintEvent(QPaintEvent* e) override {
+        const std::vector<QRect>& parties = dessin_->parties();
+        const std::vector<QImage>& cuir = dessin_->fonds().cuir;
         QPainter g(this);
-        const std::vector<QImage>& cuir = fonds().cuir;
-        for (std::size_t i = 0; i < parties_.size(); ++i)
-            if (e->region().intersects(parties_[i])) g.drawImage(parties_[i].topLeft(), cuir[i]);
+        for (std::size_t i = 0; i < parties.size(); ++i)
+            if (e->region().intersects(parties[i])) g.drawImage(parties[i].topLeft(), cuir[i]);
     }
 
 private:
-    // The thread's pictures, waited for the first time they are needed.
-    Fonds& fonds() {
-        fait_.attends();
-        return *faits_;
-    }
-    std::vector<QRect> parties_;
-    const std::shared_ptr<Fonds> faits_ = std::make_shared<Fonds>(); // filled by the thread
-    ui::ACote fait_; // waited for, if still drawing, when the book goes
+    const std::shared_ptr<CouvertureDessinee> dessin_;
 };
 
 } // namespace
 
-Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
-    ui::pose_fenetre_principale(this);
-    setWindowTitle(QStringLiteral("Agenda"));
-    setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
-    setAutoFillBackground(false);
-
+CouvertureDessinee::CouvertureDessinee(qreal echelle)
+    : taille_(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre)), echelle_(echelle) {
     // The leather shows round the pages and under their rounded corners, nowhere else: the
     // pages and the spine lie opaque on it.
-    QRegion cuir(rect());
+    QRegion cuir(QRect(QPoint(), taille_));
     for (const ui::RectTwips& page : {Torva1::pageg_rect, Torva1::paged_rect}) {
         const QRect r = ui::px(page);
         const int c = int(std::ceil(r.width() / 60.0)) + 2; // the corners' radius, and a pixel
@@ -166,21 +130,63 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             cuir += QRect(coin, QSize(c, c));
     }
     cuir -= ui::px(Torva1::Picture1_rect);
-    auto* fond =
-        new Couverture(this, cuir, {ui::px(Torva1::pageg_rect), ui::px(Torva1::paged_rect)});
+    parties_.assign(cuir.begin(), cuir.end());
+    fait_ = ui::ACote(
+        [fonds = fonds_, taille = taille_, parties = parties_,
+         pages = std::array{ui::px(Torva1::pageg_rect), ui::px(Torva1::paged_rect)}, echelle] {
+            fonds->cuir = ui::icc::couverture(taille, parties);
+            for (std::size_t i = 0; i < pages.size(); ++i)
+                fonds->pages[i] = ui::VueSurface::image_du_fond(
+                    [&](QPainter& g, QSize s) {
+                        page_sur_le_cuir(g, s, parties, fonds->cuir, pages[i], i == 0);
+                    },
+                    pages[i].size() * echelle, echelle, true);
+        },
+        ui::ACote::Fil::dessin);
+}
+
+bool CouvertureDessinee::convient(QSize taille, qreal echelle) const {
+    return taille == taille_ && echelle == echelle_;
+}
+
+const CouvertureDessinee::Fonds& CouvertureDessinee::fonds() {
+    fait_.attends();
+    return *fonds_;
+}
+
+void CouvertureDessinee::page(QPainter& g, const QRect& r, QSize taille, bool gauche) {
+    page_sur_le_cuir(g, taille, parties_, fonds().cuir, r, gauche);
+}
+
+QImage CouvertureDessinee::page_prete(bool gauche) {
+    fait_.attends();
+    return std::exchange(fonds_->pages[gauche ? 0 : 1], {});
+}
+
+Torva1Vue::Torva1Vue(Torva1& logique, std::shared_ptr<CouvertureDessinee> couverture)
+    : ui::Vue(logique), l_(logique) {
+    ui::pose_fenetre_principale(this);
+    setWindowTitle(QStringLiteral("Agenda"));
+    setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
+    setAutoFillBackground(false);
+
+    if (!couverture || !couverture->convient(size(), devicePixelRatioF()))
+        couverture = std::make_shared<CouvertureDessinee>(devicePixelRatioF());
+    auto* fond = new Couverture(this, std::move(couverture));
 
     // Each page's picture carries the boards beneath its rounded corners, so that the page is
     // opaque: a repaint over a page does not paint the boards first.
     const auto page_sur_la_couverture = [this, fond](bool gauche) {
         return [this, fond, gauche](QPainter& g, QSize s) {
-            fond->page(g, (gauche ? pageg_ : paged_)->geometry(), s, gauche);
+            fond->dessin().page(g, (gauche ? pageg_ : paged_)->geometry(), s, gauche);
         };
     };
     pageg_ = new ui::VueSurface(this, page_sur_la_couverture(true));
     paged_ = new ui::VueSurface(this, page_sur_la_couverture(false));
     for (ui::VueSurface* page : {pageg_, paged_}) {
         page->setAttribute(Qt::WA_OpaquePaintEvent);
-        page->fond_pret([fond, gauche = page == pageg_] { return fond->page_prete(gauche); });
+        page->fond_pret(
+            [fond, gauche = page == pageg_] { return fond->dessin().page_prete(gauche); });
     }
     ui::place(*pageg_, Torva1::pageg_rect);
     ui::place(*paged_, Torva1::paged_rect);
@@ -254,6 +260,10 @@ Torva1Vue::Torva1Vue(Torva1& logique) : ui::Vue(logique), l_(logique) {
             [this] { sepaffic_ = std::make_unique<Sepaffic>(); });
     // Timer3 never puts the book above a window it opened.
     connect(&l_, &Torva1::au_premier_plan, this, [] { ui::au_premier_plan(); });
+
+    // Built after its day was loaded, as the program opens, the book shows it at once.
+    if (etat.banniere_chargee) sepaffic_ = std::make_unique<Sepaffic>();
+    montre();
 }
 
 QToolButton* Torva1Vue::bouton_pied(const ui::RectTwips& r, QPixmap (*image)(QSize),

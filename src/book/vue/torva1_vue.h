@@ -3,17 +3,20 @@
 
 #include "book/torva1.h"
 #include "ui/geometrie.h"
+#include "ui/systeme.h"
 #include "ui/vue/vue.h"
 
 #include <array>
 #include <functional>
 #include <map>
 #include <memory>
+#include <QImage>
 #include <QWidget>
 #include <tuple>
 #include <vector>
 
 class QCalendarWidget;
+class QPainter;
 class QLabel;
 class QPushButton;
 class QTableWidget;
@@ -22,6 +25,36 @@ class QToolButton;
 namespace agenda {
 
 class Sepaffic;
+
+// The book's leather, and its pages' backgrounds, at the screen's scale: drawn on a thread of the
+// toolkit's pool from the moment this is made. Made as the program opens, before the day is
+// loaded, it is drawn by the time the book is built and shown.
+class CouvertureDessinee {
+public:
+    struct Fonds {
+        std::vector<QImage> cuir;    // the leather, a picture for each of parties()
+        std::array<QImage, 2> pages; // the left page's background, the right page's
+    };
+    explicit CouvertureDessinee(qreal echelle);
+    // For a window of that size in pixels, at that scale.
+    bool convient(QSize taille, qreal echelle) const;
+    // Where the leather shows, in the window's pixels.
+    const std::vector<QRect>& parties() const { return parties_; }
+    // Waited for, the first time, if still drawing.
+    const Fonds& fonds();
+    // A page's background at `r` (in the window's pixels) over `taille` device pixels.
+    void page(QPainter& g, const QRect& r, QSize taille, bool gauche);
+    // The page's background drawn with the leather, given once.
+    QImage page_prete(bool gauche);
+
+private:
+    QSize taille_;
+    qreal echelle_;
+    std::vector<QRect> parties_;
+    const std::shared_ptr<Fonds> fonds_ = std::make_shared<Fonds>(); // filled by the thread
+    ui::ACote fait_; // waited for, if still drawing, when it goes
+};
+
 namespace ui {
 class LegendeGravee;
 class VueSurface;
@@ -29,7 +62,9 @@ class VueSurface;
 
 class Torva1Vue : public QWidget, public ui::Vue {
 public:
-    explicit Torva1Vue(Torva1& logique);
+    // Built after the day's load, it shows it; `couverture`, drawn beforehand, is taken if it
+    // fits the window.
+    explicit Torva1Vue(Torva1& logique, std::shared_ptr<CouvertureDessinee> couverture = nullptr);
     ~Torva1Vue() override;
     // The day on show, on paper or in a PDF file, through the print dialog.
     void imprime();

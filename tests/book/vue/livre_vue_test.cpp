@@ -1,0 +1,54 @@
+// The book's window built once its day is loaded, as the program opens: it shows that day at
+// once, and takes a leather drawn beforehand only where it fits the window.
+
+#include "book/vue/torva1_vue.h"
+#include "support/support.h"
+#include "ui/vue/echelle.h"
+
+#include <QLabel>
+
+using namespace agenda;
+using agenda::test::rv;
+using agenda::test::rv_entete;
+
+namespace {
+
+class VueDuLivre : public agenda::test::Livre {
+protected:
+    void SetUp() override {
+        Livre::SetUp();
+        // Wednesday 3 March 2004, and the day after.
+        ecrit(QStringLiteral("tf_r0000.wdo"), rv_entete(2) +
+                                                  rv("040303:09H30:10H15", "Balayage DURAND") +
+                                                  rv("040304:09H00:10H00", "Demain BERNARD"));
+        ASSERT_EQ(charge(), -1);
+    }
+};
+
+TEST_F(VueDuLivre, BatieApresLeChargementElleMontreLaJournee) {
+    const Torva1Vue vue(*livre);
+    QStringList textes;
+    for (const QLabel* l : vue.findChildren<QLabel*>())
+        textes << l->text();
+    const QString tout = textes.join(u'|');
+    EXPECT_TRUE(tout.contains(QStringLiteral("Balayage DURAND"))) << tout.toStdString();
+    EXPECT_TRUE(textes.contains(QStringLiteral("Mercredi"))) << tout.toStdString();
+    EXPECT_FALSE(tout.contains(QStringLiteral("BERNARD"))) << tout.toStdString();
+}
+
+TEST_F(VueDuLivre, UneCouvertureDessineeDAvanceNEstPriseQueSiElleVaALaFenetre) {
+    const double echelle = ui::px_par_twip();
+    const QImage attendu = Torva1Vue(*livre).grab().toImage();
+    // Drawn for this window; at another scale of the screen, whose window is larger; for a
+    // screen of twice the pixels.
+    for (const auto& [px_par_twip, pixels] :
+         {std::pair{echelle, 1.0}, {echelle * 1.25, 1.0}, {echelle, 2.0}}) {
+        ui::fixe_echelle(px_par_twip);
+        auto couverture = std::make_shared<CouvertureDessinee>(pixels);
+        ui::fixe_echelle(echelle);
+        EXPECT_EQ(Torva1Vue(*livre, couverture).grab().toImage(), attendu)
+            << px_par_twip << " " << pixels;
+    }
+}
+
+} // namespace

@@ -169,6 +169,9 @@ Torva1Vue::Torva1Vue(Torva1& logique, std::shared_ptr<CouvertureDessinee> couver
     setWindowTitle(QStringLiteral("Agenda"));
     setFixedSize(ui::px(ui::largeur_livre), ui::px(ui::hauteur_livre));
     setAutoFillBackground(false);
+    // The leather, the pages and the spine cover every pixel of the window: the toolkit's fill of
+    // the whole window beneath them is not done, a millisecond of the opening.
+    setAttribute(Qt::WA_OpaquePaintEvent);
 
     if (!couverture || !couverture->convient(size(), devicePixelRatioF()))
         couverture = std::make_shared<CouvertureDessinee>(devicePixelRatioF());

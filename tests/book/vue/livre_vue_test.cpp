@@ -1,11 +1,13 @@
 // The book's window built once its day is loaded, as the program opens: it shows that day at
-// once, and takes a leather drawn beforehand only where it fits the window.
+// once, takes a leather drawn beforehand only where it fits the window, and its children cover
+// the whole window, which paints no background of its own.
 
 #include "book/vue/torva1_vue.h"
 #include "support/support.h"
 #include "ui/vue/echelle.h"
 
 #include <QLabel>
+#include <vector>
 
 using namespace agenda;
 using agenda::test::rv;
@@ -49,6 +51,26 @@ TEST_F(VueDuLivre, UneCouvertureDessineeDAvanceNEstPriseQueSiElleVaALaFenetre) {
         EXPECT_EQ(Torva1Vue(*livre, couverture).grab().toImage(), attendu)
             << px_par_twip << " " << pixels;
     }
+}
+
+TEST_F(VueDuLivre, LeCuirLesPagesEtLaReliureCouvrentTouteLaFenetre) {
+    // The window has no background of its own: its children, drawn over two grounds, leave
+    // nothing of either, in the day, the week and the year.
+    std::vector<QImage> vues;
+    for (const int onglet : {0, 1, 2}) {
+        livre->sel_onglet(onglet);
+        Torva1Vue vue(*livre);
+        QImage sur[2];
+        for (const QColor sol : {Qt::red, Qt::green}) {
+            QImage& image = sur[sol == Qt::green];
+            image = QImage(vue.size(), QImage::Format_ARGB32_Premultiplied);
+            image.fill(sol);
+            vue.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        }
+        EXPECT_EQ(sur[0], sur[1]) << onglet;
+        vues.push_back(sur[0]);
+    }
+    EXPECT_TRUE(vues[0] != vues[1] && vues[1] != vues[2]);
 }
 
 } // namespace

@@ -101,8 +101,8 @@ std::unique_ptr<Programme> ouvre_programme() {
                                      defaut);
     });
 
-    // The leather is drawn on the side while the day is loaded, then the book is built: its
-    // month control, which waits for the session bus, is made once the bus has answered.
+    // The leather is drawn on the side while the day is loaded, and the book is built after the
+    // load: its month control waits for the session bus, which has most often answered by then.
     auto couverture = std::make_shared<CouvertureDessinee>(
         QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->devicePixelRatio()
                                          : 1.0);

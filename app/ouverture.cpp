@@ -50,25 +50,30 @@ void enregistre_fenetres() {
     ui::enregistre_vue<ChCoul, ChCoulVue>();
 }
 
-// Does `action` once, as soon as `fenetre` has been painted for the first time: for what the user
+// Does `action` once, as soon as `fenetre` has been painted for the first time, or after half a
+// second if it has not been (a window the window manager opens minimised): for what the user
 // does not wait for.
 class ApresLaPremierePeinture : public QObject {
 public:
     ApresLaPremierePeinture(QWidget& fenetre, std::function<void()> action)
         : QObject(&fenetre), action_(std::move(action)) {
         fenetre.installEventFilter(this);
+        QTimer::singleShot(500, this, [this] { fais(); });
     }
 
 protected:
-    bool eventFilter(QObject* objet, QEvent* e) override {
-        if (e->type() == QEvent::Paint && action_) {
-            objet->removeEventFilter(this);
-            QTimer::singleShot(0, this, std::exchange(action_, nullptr)); // once it is shown
-        }
+    bool eventFilter(QObject*, QEvent* e) override {
+        if (e->type() == QEvent::Paint)
+            QTimer::singleShot(0, this, [this] { fais(); }); // once it is shown
         return false;
     }
 
 private:
+    void fais() {
+        if (!action_) return;
+        parent()->removeEventFilter(this);
+        std::exchange(action_, nullptr)();
+    }
     std::function<void()> action_;
 };
 

@@ -1,5 +1,7 @@
 #include "banc.h"
 
+#include <algorithm>
+
 #include "data/fichier_records.h"
 #include "data/formats.h"
 
@@ -60,6 +62,13 @@ void lance_bancs(int argc, char** argv, int repetitions, Medianes& medianes) {
     int n = int(args.size());
     benchmark::Initialize(&n, args.data());
     benchmark::RunSpecifiedBenchmarks(&medianes);
+}
+
+double mediane(std::vector<double> valeurs) {
+    if (valeurs.empty()) return 0;
+    const auto milieu = valeurs.begin() + std::ptrdiff_t(valeurs.size() / 2);
+    std::nth_element(valeurs.begin(), milieu, valeurs.end());
+    return *milieu;
 }
 
 std::size_t lit_tout(const char* chemin) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace agenda::bench {
 
@@ -36,6 +37,9 @@ int dans_un_dossier(int argc, char** argv, int repetitions, const std::function<
 // The plain sequential read that a scan is measured against: the whole file in blocks the size
 // of a scan's block of appointments.
 std::size_t lit_tout(const char* chemin);
+
+// The median of measures taken in pairs (0 if there are none).
+double mediane(std::vector<double> valeurs);
 
 // Runs the benchmarks chosen on the command line, `repetitions` times each unless it says
 // otherwise, printing the medians only.

@@ -11,7 +11,6 @@
 #include "ui/geometrie.h"
 #include "ui/vue/echelle.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstring>
@@ -148,13 +147,11 @@ int main(int argc, char** argv) {
     agenda::bench::Medianes rapport;
     // Twenty rounds of five pairs each: one start swings by a tenth here.
     agenda::bench::lance_bancs(argc, argv, 20, rapport);
-    if (!rapports.empty() && pic_nu > 0) {
-        const auto milieu = rapports.begin() + std::ptrdiff_t(rapports.size() / 2);
-        std::nth_element(rapports.begin(), milieu, rapports.end());
+    if (const double ratio = agenda::bench::mediane(rapports); ratio > 0 && pic_nu > 0) {
         std::printf("démarrage jusqu'au livre peint : %.2f × la fenêtre nue (médiane de %zu "
                     "paires)\n"
                     "mémoire au plus haut : %.0f Mio contre %.0f Mio, %.2f ×\n",
-                    *milieu, rapports.size(), pic_livre, pic_nu, pic_livre / pic_nu);
+                    ratio, rapports.size(), pic_livre, pic_nu, pic_livre / pic_nu);
     }
     benchmark::Shutdown();
     return 0;

@@ -16,7 +16,6 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdio>
-#include <functional>
 #include <map>
 #include <QCoreApplication>
 #include <string>
@@ -55,7 +54,8 @@ void tailles(benchmark::internal::Benchmark* b) {
 // first, each pair sees the same machine.
 std::map<std::int16_t, std::vector<double>> paires;
 
-double secondes_de(const std::function<void()>& travail) {
+template <class Travail>
+double secondes_de(Travail&& travail) {
     const auto debut = std::chrono::steady_clock::now();
     travail();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
@@ -86,13 +86,6 @@ void BM_charge_journee(benchmark::State& state) {
 }
 BENCHMARK(BM_charge_journee)->Apply(tailles)->UseManualTime();
 
-double mediane(std::vector<double> v) {
-    if (v.empty()) return 0;
-    const auto milieu = v.begin() + std::ptrdiff_t(v.size() / 2);
-    std::nth_element(v.begin(), milieu, v.end());
-    return *milieu;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -105,7 +98,7 @@ int main(int argc, char** argv) {
         },
         [](const bench::Medianes&) {
             for (std::size_t i = 0; i < cas.size(); ++i)
-                if (const double r = mediane(paires[std::int16_t(i + 1)]); r > 0)
+                if (const double r = bench::mediane(paires[std::int16_t(i + 1)]); r > 0)
                     std::printf("charge_journee / lecture séquentielle (%d records, %d du jour) : "
                                 "%.2f\n",
                                 cas[i].records, cas[i].du_jour, r);

@@ -98,7 +98,6 @@ public:
         : QWidget(parent), dessin_(std::move(dessin)) {
         setGeometry(parent->rect());
     }
-    CouvertureDessinee& dessin() { return *dessin_; }
 
 protected:
     void paintEvent(QPaintEvent* e) override {
@@ -175,13 +174,13 @@ Torva1Vue::Torva1Vue(Torva1& logique, std::shared_ptr<CouvertureDessinee> couver
 
     if (!couverture || !couverture->convient(size(), devicePixelRatioF()))
         couverture = std::make_shared<CouvertureDessinee>(devicePixelRatioF());
-    auto* fond = new Couverture(this, std::move(couverture));
+    new Couverture(this, couverture);
 
     // Each page's picture carries the boards beneath its rounded corners, so that the page is
     // opaque: a repaint over a page does not paint the boards first.
-    const auto page_sur_la_couverture = [this, fond](bool gauche) {
-        return [this, fond, gauche](QPainter& g, QSize s) {
-            fond->dessin().page(g, (gauche ? pageg_ : paged_)->geometry(), s, gauche);
+    const auto page_sur_la_couverture = [this, couverture](bool gauche) {
+        return [this, couverture, gauche](QPainter& g, QSize s) {
+            couverture->page(g, (gauche ? pageg_ : paged_)->geometry(), s, gauche);
         };
     };
     pageg_ = new ui::VueSurface(this, page_sur_la_couverture(true));
@@ -189,7 +188,7 @@ Torva1Vue::Torva1Vue(Torva1& logique, std::shared_ptr<CouvertureDessinee> couver
     for (ui::VueSurface* page : {pageg_, paged_}) {
         page->setAttribute(Qt::WA_OpaquePaintEvent);
         page->fond_pret(
-            [fond, gauche = page == pageg_] { return fond->dessin().page_prete(gauche); });
+            [couverture, gauche = page == pageg_] { return couverture->page_prete(gauche); });
     }
     ui::place(*pageg_, Torva1::pageg_rect);
     ui::place(*paged_, Torva1::paged_rect);

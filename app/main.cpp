@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
             return 0;
         }
     }
+    agenda::ui::annonce_le_bus_absent();
     agenda::ui::ACote polices = agenda::lit_les_polices_a_cote();
     messages_de_qt = qInstallMessageHandler(sans_ecran);
     QApplication app(argc, argv);

@@ -56,7 +56,10 @@ class PremierePeinture : public QObject {
 int enfant(int argc, char** argv, const std::string& quoi) {
     // As the program starts; the bare window is Qt's alone.
     agenda::ui::ACote polices;
-    if (quoi == "livre") polices = agenda::lit_les_polices_a_cote();
+    if (quoi == "livre") {
+        agenda::ui::annonce_le_bus_absent();
+        polices = agenda::lit_les_polices_a_cote();
+    }
     QApplication app(argc, argv);
     polices.attends();
     PremierePeinture peinture;

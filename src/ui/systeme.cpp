@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QThreadPool>
 #include <QUrl>
 #include <thread>
@@ -27,6 +29,8 @@ std::function<bool(const QString&)>& lanceur() {
     static std::function<bool(const QString&)> l;
     return l;
 }
+constexpr char adresse_du_bus[] = "DBUS_SESSION_BUS_ADDRESS";
+bool bus_annonce_absent = false;
 } // namespace
 
 QDateTime maintenant() {
@@ -56,8 +60,28 @@ bool lance_commande(const QString& ligne) {
     if (lanceur()) return lanceur()(ligne);
     QStringList mots = QProcess::splitCommand(ligne);
     if (mots.isEmpty()) return false;
-    const QString programme = mots.takeFirst();
-    return QProcess::startDetached(programme, mots);
+    QProcess programme;
+    programme.setProgram(mots.takeFirst());
+    programme.setArguments(mots);
+    if (bus_annonce_absent) {
+        QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+        environnement.remove(QLatin1String(adresse_du_bus));
+        programme.setProcessEnvironment(environnement);
+    }
+    return programme.startDetached();
+}
+
+void annonce_le_bus_absent() {
+    if (qEnvironmentVariableIsSet(adresse_du_bus)) return;
+    // Where the library looks after the address: the user's bus in the runtime folder, then its
+    // launcher, at its own place or on the path.
+    const QString dossier = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!dossier.isEmpty() && QFileInfo::exists(dossier + QStringLiteral("/bus"))) return;
+    if (QFileInfo(QStringLiteral("/usr/bin/dbus-launch")).isExecutable() ||
+        !QStandardPaths::findExecutable(QStringLiteral("dbus-launch")).isEmpty())
+        return;
+    qputenv(adresse_du_bus, "disabled:");
+    bus_annonce_absent = true;
 }
 
 void fixe_lanceur(std::function<bool(const QString&)> l) {

@@ -25,6 +25,11 @@ void pose_pointeur(Pointeur p);
 // Starts a command line in a normal window without waiting and without a shell: the first
 // word is the program, the rest its arguments.
 bool lance_commande(const QString& ligne);
+// Where no session bus can be found, tells the bus library so before it looks for one: looking,
+// it forks the whole program to run its launcher (dbus-launch), even where none is installed,
+// which cost the book's opening two milliseconds and more. To call before any thread starts. The
+// programs lance_commande starts look for their own bus.
+void annonce_le_bus_absent();
 // Replaces the launcher (tests); an empty function gives the real one back.
 void fixe_lanceur(std::function<bool(const QString&)> lanceur);
 

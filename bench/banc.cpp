@@ -21,15 +21,13 @@ void Medianes::ReportRuns(const std::vector<Run>& runs) {
         if (r.run_type != Run::RT_Aggregate || r.aggregate_name != "median") continue;
         const std::string nom = r.run_name.function_name + r.run_name.args;
         temps_[nom] = r.GetAdjustedRealTime();
-        for (const auto& [quoi, c] : r.counters)
-            compteurs_[nom + "|" + quoi] = c;
     }
     ConsoleReporter::ReportRuns(runs);
 }
 
-double Medianes::valeur(const std::map<std::string, double>& m, const std::string& cle) {
-    const auto it = m.find(cle);
-    return it == m.end() ? 0 : it->second;
+double Medianes::temps(const std::string& nom) const {
+    const auto it = temps_.find(nom);
+    return it == temps_.end() ? 0 : it->second;
 }
 
 void imprime_ratio(const Medianes& m, const std::string& mesure, const std::string& reference,

@@ -15,14 +15,10 @@ class Medianes : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;
     // By name and arguments without the slash: "BM_pas_de_jour32767". 0 if it did not run.
-    double temps(const std::string& nom) const { return valeur(temps_, nom); }
-    double compteur(const std::string& nom, const std::string& quoi) const {
-        return valeur(compteurs_, nom + "|" + quoi);
-    }
+    double temps(const std::string& nom) const;
 
 private:
-    static double valeur(const std::map<std::string, double>& m, const std::string& cle);
-    std::map<std::string, double> temps_, compteurs_;
+    std::map<std::string, double> temps_;
 };
 
 // "libelle : ratio" and the suffix, of two medians, when both ran.

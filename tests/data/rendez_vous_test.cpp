@@ -1,5 +1,5 @@
-// The appointment files: the header repaired by the file's length, the day scan and the note
-// scan, on files laid by hand.
+// The appointment files: the header repaired by the file's length and the day scan, on files
+// laid by hand. (The note scan is read through the week's note.)
 
 #include "data/dossier.h"
 #include "data/fichier_records.h"
@@ -96,14 +96,4 @@ TEST_F(Rendezvous, LeBalayageTraverseLesBlocsJusquAuBoutDuFichier) {
     EXPECT_EQ(numeros(jour(rv_entete(3) + corps.left(corps.size() - 300))),
               std::vector<int>(du_jour.begin(), du_jour.end() - 1));
     EXPECT_EQ(numeros(jour(rv_entete(1099).left(300))), std::vector<int>{});
-}
-
-TEST_F(Rendezvous, RechercheDeNoteParCle) {
-    etat.num_collab = 7;
-    ecrit(QStringLiteral("tf_a0007.wdo"),
-          rv_entete(4) + rv("SE:040301") + rv("JO:040303") + rv("JO:040303") + rv("JO:040304"));
-    ouvre_notes();
-    for (const auto& [cle, numero] :
-         {std::pair{"JO:040303", 2}, {"SE:040301", 1}, {"JO:040305", 0}})
-        EXPECT_EQ(cherche_note(QString::fromLatin1(cle)), numero) << cle;
 }
